@@ -1,0 +1,18 @@
+#include "browserextpage.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+BrowserExtPage::BrowserExtPage(QWidget* parent)
+    : QWidget(parent)
+{
+    auto* layout = new QVBoxLayout(this);
+    auto* label = new QLabel(tr("This page is not built yet."), this);
+    label->setAlignment(Qt::AlignCenter);
+    label->setStyleSheet(QStringLiteral("color: #94a3b8; font-size: 14px;"));
+    layout->addWidget(label);
+}
+
+void BrowserExtPage::startScan()
+{
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QWidget>
+
+// Placeholder until the page is built: it shows that the page is still empty.
+class BrowserExtPage final : public QWidget {
+    Q_OBJECT
+public:
+    explicit BrowserExtPage(QWidget* parent = nullptr);
+
+    // Called by the main window; starts nothing yet.
+    void startScan();
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+// The program's web links per language, from the ":/data/data/links.json" resource, and the
+// current language. One instance for the whole process.
+class LinkManager final : public QObject {
+    Q_OBJECT
+public:
+    static LinkManager* instance();
+
+    QString getLink(const QString& category, const QString& key) const;
+    void setLanguage(const QString& code);
+    QString currentLanguage() const { return m_currentLanguage; }
+    QString fallbackLanguage() const { return m_fallbackLanguage; }
+    QStringList supportedLanguages() const { return m_supportedLanguages; }
+
+    // The start-up rule that turns a locale name (zh_HK, de_DE) into one of the thirteen codes.
+    static QString mapLocaleName(const QString& localeName);
+
+    // Tests build their own catalogue from a file of their choice.
+    explicit LinkManager(const QString& linksFile, QObject* parent = nullptr);
+
+signals:
+    void languageChanged(const QString& languageCode);
+
+private:
+    bool loadLinks(const QString& path);
+    QString detectLanguage() const;
+
+    QString m_currentLanguage = QStringLiteral("en");
+    QString m_fallbackLanguage = QStringLiteral("en");
+    QStringList m_supportedLanguages;
+    QJsonObject m_root;
+};

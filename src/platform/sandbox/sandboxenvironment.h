@@ -1,0 +1,25 @@
+#pragma once
+
+#include "../environment.h"
+
+#include <map>
+
+namespace platform {
+
+// The sandbox's machine: "C:/" is the folder C inside the sandbox, and the environment variables
+// point into it, for one user named "User".
+class SandboxEnvironment final : public Environment {
+public:
+    explicit SandboxEnvironment(std::wstring root);
+
+    std::wstring systemDriveRoot() const override;
+    std::wstring mapPath(const std::wstring& windowsPath) const override;
+    std::optional<std::wstring> variable(const std::wstring& name) const override;
+    std::wstring expand(const std::wstring& text) const override;
+
+private:
+    std::wstring m_drive; // "<root>/C"
+    std::map<std::wstring, std::wstring> m_vars; // keyed by lower-case name
+};
+
+} // namespace platform

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "../iconextractor.h"
+
+namespace platform {
+
+class WinIconExtractor final : public IconExtractor {
+public:
+    WinIconExtractor() = default;
+};
+
+} // namespace platform

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "../launcher.h"
+
+namespace platform {
+
+class WinLauncher final : public Launcher {
+public:
+    WinLauncher() = default;
+};
+
+} // namespace platform

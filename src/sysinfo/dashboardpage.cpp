@@ -1,0 +1,18 @@
+#include "dashboardpage.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+DashboardPage::DashboardPage(QWidget* parent)
+    : QWidget(parent)
+{
+    auto* layout = new QVBoxLayout(this);
+    auto* label = new QLabel(tr("This page is not built yet."), this);
+    label->setAlignment(Qt::AlignCenter);
+    label->setStyleSheet(QStringLiteral("color: #94a3b8; font-size: 14px;"));
+    layout->addWidget(label);
+}
+
+void DashboardPage::start()
+{
+}
