@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+class QApplication;
+
+// The process-wide set-up that every window relies on, in the order start-up runs it.
+namespace Startup {
+
+inline constexpr char QmPathPattern[] = ":/translations/translations/Norvale_%1.qm";
+inline constexpr char StyleSheetPath[] = ":/styles/main.qss";
+
+void applyIdentity();
+void applyStyleAndPalette();
+void applyFont();
+
+// The catalogue code from the stored "language" value, or from the system locale name when
+// nothing is stored. Logs the system language only when it is consulted.
+QString chooseTranslationCode(const QString& storedLanguage, const QString& systemLocaleName);
+
+// Reads the settings store and the system locale, logs the choice, loads and installs the
+// catalogue; returns the chosen code whether or not a catalogue was found.
+QString setUpTranslation();
+
+void applyStyleSheet();
+
+} // namespace Startup
