@@ -1,10 +1,316 @@
 #include "sandboxfilesystem.h"
 
+#include "../strings.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace platform {
 
-SandboxFileSystem::SandboxFileSystem(std::wstring root)
-    : m_root(std::move(root))
+namespace {
+
+// Each level of a walk keeps its directory open; beyond this depth a folder is left alone rather
+// than risking the descriptor limit or the pool thread's stack on a pathological tree.
+constexpr int MaxDepth = 400;
+
+// One large read per directory chunk: the listing is the hot path of a scan.
+constexpr std::size_t ListingBufferBytes = 64 * 1024;
+
+class UniqueFd {
+public:
+    explicit UniqueFd(int fd = -1)
+        : m_fd(fd)
+    {
+    }
+    ~UniqueFd() { reset(); }
+    UniqueFd(const UniqueFd&) = delete;
+    UniqueFd& operator=(const UniqueFd&) = delete;
+    UniqueFd(UniqueFd&& other) noexcept
+        : m_fd(other.release())
+    {
+    }
+    UniqueFd& operator=(UniqueFd&& other) noexcept
+    {
+        if (this != &other)
+            reset(other.release());
+        return *this;
+    }
+
+    int get() const { return m_fd; }
+    bool isValid() const { return m_fd >= 0; }
+    int release()
+    {
+        const int fd = m_fd;
+        m_fd = -1;
+        return fd;
+    }
+    void reset(int fd = -1)
+    {
+        if (m_fd >= 0) {
+            const int saved = errno;
+            ::close(m_fd);
+            errno = saved;
+        }
+        m_fd = fd;
+    }
+
+private:
+    int m_fd;
+};
+
+struct Entry {
+    std::string name;
+    unsigned char type;
+};
+
+// The kernel's record layout for getdents64; glibc does not name it.
+struct KernelDirent64 {
+    std::uint64_t ino;
+    std::int64_t off;
+    unsigned short reclen;
+    unsigned char type;
+    char name[1];
+};
+
+// Reads the whole listing first, so the caller may delete entries while it goes through them.
+bool readEntries(int dirFd, std::vector<Entry>& out)
 {
+    out.clear();
+    static thread_local std::vector<char> buffer(ListingBufferBytes);
+    for (;;) {
+        const ssize_t n = ::getdents64(dirFd, buffer.data(), buffer.size());
+        if (n == 0)
+            return true;
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            return false;
+        }
+        for (ssize_t pos = 0; pos < n;) {
+            const auto* d = reinterpret_cast<const KernelDirent64*>(buffer.data() + pos);
+            pos += d->reclen;
+            const char* name = buffer.data() + (pos - d->reclen) + offsetof(KernelDirent64, name);
+            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
+                continue;
+            out.push_back({std::string(name), d->type});
+        }
+    }
+}
+
+int openSubfolder(int parentFd, const char* name)
+{
+    int fd;
+    do {
+        fd = ::openat(parentFd, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    } while (fd < 0 && errno == EINTR);
+    return fd;
+}
+
+// The type of an entry without following it; the listing's type when the file system gives one.
+unsigned char entryType(int dirFd, const Entry& e)
+{
+    if (e.type != DT_UNKNOWN)
+        return e.type;
+    struct stat st;
+    if (::fstatat(dirFd, e.name.c_str(), &st, AT_SYMLINK_NOFOLLOW) != 0)
+        return DT_UNKNOWN;
+    if (S_ISREG(st.st_mode))
+        return DT_REG;
+    if (S_ISDIR(st.st_mode))
+        return DT_DIR;
+    if (S_ISLNK(st.st_mode))
+        return DT_LNK;
+    return DT_UNKNOWN;
+}
+
+std::int64_t sizeBelow(int dirFd, dev_t device, int depth)
+{
+    std::vector<Entry> entries;
+    if (!readEntries(dirFd, entries))
+        return 0;
+    std::int64_t total = 0;
+    std::vector<const Entry*> folders;
+    for (const Entry& e : entries) {
+        if (e.type == DT_REG || e.type == DT_UNKNOWN) {
+            struct stat st;
+            if (::fstatat(dirFd, e.name.c_str(), &st, AT_SYMLINK_NOFOLLOW) != 0)
+                continue;
+            if (S_ISREG(st.st_mode))
+                total += st.st_size;
+            else if (S_ISDIR(st.st_mode))
+                folders.push_back(&e);
+        } else if (e.type == DT_DIR) {
+            folders.push_back(&e);
+        }
+        // Links, sockets, pipes and devices hold no bytes of their own worth counting.
+    }
+    if (depth >= MaxDepth)
+        return total;
+    for (const Entry* e : folders) {
+        UniqueFd fd(openSubfolder(dirFd, e->name.c_str()));
+        if (!fd.isValid())
+            continue;
+        struct stat st;
+        if (::fstat(fd.get(), &st) != 0 || st.st_dev != device)
+            continue;
+        total += sizeBelow(fd.get(), device, depth + 1);
+    }
+    return total;
+}
+
+void noteFailure(EmptyFolderResult& result, int error)
+{
+    ++result.failed;
+    if (result.firstError == 0)
+        result.firstError = static_cast<std::uint32_t>(error);
+}
+
+bool unlinkEntry(int dirFd, const char* name, int flags, EmptyFolderResult& result)
+{
+    if (::unlinkat(dirFd, name, flags) == 0 || errno == ENOENT) {
+        ++result.removed;
+        return true;
+    }
+    noteFailure(result, errno);
+    return false;
+}
+
+void emptyBelow(int dirFd, dev_t device, int depth, EmptyFolderResult& result)
+{
+    std::vector<Entry> entries;
+    if (!readEntries(dirFd, entries)) {
+        noteFailure(result, errno);
+        return;
+    }
+    for (const Entry& e : entries) {
+        if (entryType(dirFd, e) != DT_DIR) {
+            // Files, links and anything else go as themselves; unlinkat never follows a link.
+            unlinkEntry(dirFd, e.name.c_str(), 0, result);
+            continue;
+        }
+        UniqueFd fd(openSubfolder(dirFd, e.name.c_str()));
+        if (!fd.isValid()) {
+            // Swapped for a link or a file since the listing: remove what is there now, as itself.
+            if (errno == ELOOP || errno == ENOTDIR)
+                unlinkEntry(dirFd, e.name.c_str(), 0, result);
+            else if (errno != ENOENT)
+                noteFailure(result, errno);
+            continue;
+        }
+        struct stat st;
+        if (::fstat(fd.get(), &st) != 0) {
+            noteFailure(result, errno);
+            continue;
+        }
+        if (st.st_dev != device) {
+            // A mount point: neither entered nor removed.
+            noteFailure(result, EXDEV);
+            continue;
+        }
+        if (depth >= MaxDepth) {
+            noteFailure(result, ELOOP);
+            continue;
+        }
+        emptyBelow(fd.get(), device, depth + 1, result);
+        fd.reset();
+        unlinkEntry(dirFd, e.name.c_str(), AT_REMOVEDIR, result);
+    }
+}
+
+} // namespace
+
+SandboxFileSystem::SandboxFileSystem(std::wstring root)
+    : m_root(toUtf8(root))
+{
+    while (m_root.size() > 1 && m_root.back() == '/')
+        m_root.pop_back();
+}
+
+int SandboxFileSystem::openFolder(const std::wstring& path) const
+{
+    const std::string full = toUtf8(path);
+    std::string rest;
+    if (full == m_root) {
+        rest.clear();
+    } else if (m_root == "/" && !full.empty() && full[0] == '/') {
+        rest = full.substr(1);
+    } else if (full.size() > m_root.size() && full.compare(0, m_root.size(), m_root) == 0
+        && full[m_root.size()] == '/') {
+        rest = full.substr(m_root.size() + 1);
+    } else {
+        return -1;
+    }
+
+    // The root itself is trusted as given (it may sit below a linked /tmp); below it every
+    // component is opened without following links.
+    UniqueFd fd(::open(m_root.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    if (!fd.isValid())
+        return -1;
+    std::size_t pos = 0;
+    while (pos <= rest.size()) {
+        std::size_t slash = rest.find('/', pos);
+        if (slash == std::string::npos)
+            slash = rest.size();
+        const std::string part = rest.substr(pos, slash - pos);
+        pos = slash + 1;
+        if (part.empty() || part == ".")
+            continue;
+        if (part == "..")
+            return -1;
+        fd.reset(::openat(fd.get(), part.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        if (!fd.isValid())
+            return -1;
+    }
+    // Reopen the last one for reading; "." of a descriptor opened without following is that folder.
+    return ::openat(fd.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+}
+
+bool SandboxFileSystem::isFolder(const std::wstring& path)
+{
+    UniqueFd fd(openFolder(path));
+    return fd.isValid();
+}
+
+std::optional<std::vector<std::wstring>> SandboxFileSystem::subFolders(const std::wstring& folder)
+{
+    UniqueFd fd(openFolder(folder));
+    if (!fd.isValid())
+        return std::nullopt;
+    std::vector<Entry> entries;
+    if (!readEntries(fd.get(), entries))
+        return std::nullopt;
+    std::vector<std::wstring> names;
+    for (const Entry& e : entries) {
+        if (entryType(fd.get(), e) == DT_DIR)
+            names.push_back(fromUtf8(e.name));
+    }
+    return names;
+}
+
+std::int64_t SandboxFileSystem::folderSize(const std::wstring& folder)
+{
+    UniqueFd fd(openFolder(folder));
+    struct stat st;
+    if (!fd.isValid() || ::fstat(fd.get(), &st) != 0)
+        return 0;
+    return sizeBelow(fd.get(), st.st_dev, 0);
+}
+
+EmptyFolderResult SandboxFileSystem::emptyFolder(const std::wstring& folder)
+{
+    EmptyFolderResult result;
+    UniqueFd fd(openFolder(folder));
+    struct stat st;
+    if (!fd.isValid() || ::fstat(fd.get(), &st) != 0)
+        return result;
+    result.opened = true;
+    emptyBelow(fd.get(), st.st_dev, 0, result);
+    return result;
 }
 
 } // namespace platform
