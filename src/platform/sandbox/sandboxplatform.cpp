@@ -47,7 +47,7 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
     m_frame = std::make_unique<NullWindowFrame>();
     m_counters = std::make_unique<SandboxSystemCounters>(m_root);
     m_fileSystem = std::make_unique<SandboxFileSystem>(m_root);
-    m_launcher = std::make_unique<SandboxLauncher>(m_root);
+    m_launcher = std::make_unique<SandboxLauncher>(m_root, m_registry.get());
     m_icons = std::make_unique<SandboxIconExtractor>(m_root);
 }
 
