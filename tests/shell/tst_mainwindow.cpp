@@ -1,0 +1,154 @@
+#include "shell/mainwindow.h"
+#include "shell/navbutton.h"
+#include "shell/sidebar.h"
+#include "shell/titlebar.h"
+#include "sysinfo/dashboardpage.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTest>
+
+namespace {
+
+void sendMouse(QWidget* target, QEvent::Type type, const QPoint& local, Qt::MouseButton button,
+               Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, QPointF(local), target->mapToGlobal(QPointF(local)), button, buttons, Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+}
+
+} // namespace
+
+class tst_MainWindow : public QObject {
+    Q_OBJECT
+
+private slots:
+    void pagesAtFixedIndices()
+    {
+        MainWindow window;
+        QCOMPARE(window.pageStack()->count(), 5);
+        QCOMPARE(window.pageStack()->currentIndex(), 0);
+        const char* classes[] = {"DashboardPage", "CleanupPage", "UninstallPage", "WinAppsPage", "BrowserExtPage"};
+        for (int i = 0; i < 5; ++i)
+            QCOMPARE(window.pageStack()->widget(i)->metaObject()->className(), classes[i]);
+        QVERIFY(window.windowFlags() & Qt::FramelessWindowHint);
+    }
+
+    void sizeLimits()
+    {
+        MainWindow window;
+        QCOMPARE(window.size(), QSize(980, 700));
+        QCOMPARE(window.minimumSize(), QSize(980, 680));
+        window.resize(600, 400);
+        QCOMPARE(window.size(), QSize(980, 680));
+    }
+
+    void firstVisitsStartOnce_data()
+    {
+        QTest::addColumn<QList<int>>("visits");
+        QTest::addColumn<QList<int>>("starts");
+        QTest::newRow("uninstall, away and back") << QList<int>{2, 0, 2} << QList<int>{2};
+        QTest::newRow("every page twice") << QList<int>{0, 1, 2, 3, 4, 4, 3, 2, 1, 0} << QList<int>{2, 3, 4};
+        QTest::newRow("dashboard and cleanup start nothing") << QList<int>{0, 1, 0, 1} << QList<int>{};
+        QTest::newRow("same page repeatedly") << QList<int>{4, 4, 4} << QList<int>{4};
+    }
+
+    void firstVisitsStartOnce()
+    {
+        QFETCH(QList<int>, visits);
+        QFETCH(QList<int>, starts);
+        MainWindow window;
+        QSignalSpy spy(&window, &MainWindow::firstVisitStarted);
+        for (int index : visits) {
+            window.navigateTo(index);
+            QCOMPARE(window.pageStack()->currentIndex(), index);
+            QCOMPARE(window.sidebar()->activeIndex(), index);
+        }
+        QList<int> started;
+        for (const auto& args : std::as_const(spy))
+            started << args.at(0).toInt();
+        QCOMPARE(started, starts);
+    }
+
+    void sidebarDrivesTheStack()
+    {
+        MainWindow window;
+        QTest::mouseClick(window.sidebar()->buttons().at(3), Qt::LeftButton);
+        QCOMPARE(window.pageStack()->currentIndex(), 3);
+    }
+
+    void quickActionMovesTheActiveMark()
+    {
+        MainWindow window;
+        auto* dashboard = qobject_cast<DashboardPage*>(window.pageStack()->widget(0));
+        QVERIFY(dashboard);
+        emit dashboard->navigateTo(1);
+        QCOMPARE(window.pageStack()->currentIndex(), 1);
+        QVERIFY(window.sidebar()->buttons().at(1)->isActive());
+        QVERIFY(!window.sidebar()->buttons().at(0)->isActive());
+    }
+
+    void doubleClickTwiceRestoresGeometry()
+    {
+        MainWindow window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QRect before = window.geometry();
+        sendMouse(window.titleBar(), QEvent::MouseButtonDblClick, QPoint(100, 20), Qt::LeftButton, Qt::LeftButton);
+        QVERIFY(window.isMaximizedByWindow());
+        QVERIFY(window.titleBar()->isMaximized());
+        sendMouse(window.titleBar(), QEvent::MouseButtonDblClick, QPoint(100, 20), Qt::LeftButton, Qt::LeftButton);
+        QVERIFY(!window.isMaximizedByWindow());
+        QVERIFY(!window.titleBar()->isMaximized());
+        QTRY_COMPARE(window.geometry(), before);
+    }
+
+    void pressOnAPageNeverMovesTheWindow()
+    {
+        MainWindow window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QPoint start = window.pos();
+        const QPoint onPage(600, 400);
+        sendMouse(&window, QEvent::MouseButtonPress, onPage, Qt::LeftButton, Qt::LeftButton);
+        sendMouse(&window, QEvent::MouseMove, onPage + QPoint(40, 30), Qt::NoButton, Qt::LeftButton);
+        sendMouse(&window, QEvent::MouseButtonRelease, onPage + QPoint(40, 30), Qt::LeftButton, Qt::NoButton);
+        QCOMPARE(window.pos(), start);
+    }
+
+    void pressInTitleBarAreaDragsTheWindow()
+    {
+        MainWindow window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QPoint start = window.frameGeometry().topLeft();
+        // A press the title bar did not take (it reaches the window) still drags inside its band.
+        const QPoint inBar = window.titleBar()->mapTo(&window, QPoint(300, 20));
+        sendMouse(&window, QEvent::MouseButtonPress, inBar, Qt::LeftButton, Qt::LeftButton);
+        sendMouse(&window, QEvent::MouseMove, inBar + QPoint(15, 10), Qt::NoButton, Qt::LeftButton);
+        QCOMPARE(window.frameGeometry().topLeft(), start + QPoint(15, 10));
+    }
+
+    void languageDisplayNames_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("Simplified Chinese") << "zh_CN" << "Simplified Chinese";
+        QTest::newRow("Japanese in its own script") << "ja" << QStringLiteral("日本語");
+        QTest::newRow("Portuguese shows the code") << "pt" << "pt";
+        QTest::newRow("Arabic shows the code") << "ar" << "ar";
+        QTest::newRow("Spanish") << "es" << QStringLiteral("Español");
+    }
+
+    void languageDisplayNames()
+    {
+        QFETCH(QString, code);
+        QFETCH(QString, name);
+        QCOMPARE(MainWindow::languageDisplayName(code), name);
+    }
+};
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_mainwindow.moc"

@@ -1,0 +1,237 @@
+#include "shell/titlebar.h"
+#include "shell/winbutton.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+QSettings settings()
+{
+    return QSettings(QStringLiteral("Brightfen"), QStringLiteral("Norvale"));
+}
+
+QAction* languageAction(TitleBar& bar, const QString& code)
+{
+    const auto actions = bar.languageGroup()->actions();
+    for (QAction* a : actions) {
+        if (a->data().toString() == code)
+            return a;
+    }
+    return nullptr;
+}
+
+QImage paint(QWidget& w)
+{
+    return w.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+void sendMouse(QWidget* target, QEvent::Type type, const QPoint& local, Qt::MouseButton button,
+               Qt::MouseButtons buttons)
+{
+    const QPointF global = target->mapToGlobal(QPointF(local));
+    QMouseEvent event(type, QPointF(local), global, button, buttons, Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+}
+
+} // namespace
+
+class tst_TitleBar : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { settings().clear(); }
+
+    void menuEntriesInOrder()
+    {
+        TitleBar bar;
+        QStringList texts;
+        const auto actions = bar.menu()->actions();
+        for (QAction* a : actions)
+            texts << (a->isSeparator() ? QStringLiteral("|") : a->text());
+        // The first entry keeps its misspelt source text: the catalogues key on it.
+        const QStringList expected = {QStringLiteral("ℹ️  Qbout Norvale"), "|", QStringLiteral("🌐  Language"), "|",
+                                      QStringLiteral("❓  Help"), QStringLiteral("💬  Support"), "|", "Quit"};
+        QCOMPARE(texts, expected);
+    }
+
+    void languageEntriesInOrder()
+    {
+        TitleBar bar;
+        QStringList codes;
+        const auto actions = bar.languageGroup()->actions();
+        for (QAction* a : actions) {
+            QVERIFY(a->isCheckable());
+            codes << a->data().toString();
+        }
+        QCOMPARE(codes, QStringList({"zh_CN", "zh_TW", "en", "ja", "ko", "fr", "de", "es", "pt", "it", "nl", "ar", "tr"}));
+        QVERIFY(bar.languageGroup()->isExclusive());
+        QCOMPARE(languageAction(bar, "ar")->text(), QStringLiteral("🇸🇦  عربية"));
+    }
+
+    void checkedLanguage_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("checked");
+        QTest::newRow("nothing stored marks Simplified Chinese") << QString() << "zh_CN";
+        QTest::newRow("stored German") << "de" << "de";
+        QTest::newRow("stored Turkish") << "tr" << "tr";
+    }
+
+    void checkedLanguage()
+    {
+        QFETCH(QString, stored);
+        QFETCH(QString, checked);
+        if (!stored.isNull())
+            settings().setValue(QStringLiteral("language"), stored);
+        TitleBar bar;
+        QCOMPARE(bar.currentLanguage(), checked);
+        QVERIFY(bar.languageGroup()->checkedAction());
+        QCOMPARE(bar.languageGroup()->checkedAction()->data().toString(), checked);
+    }
+
+    void choosingCurrentLanguageDoesNothing()
+    {
+        TitleBar bar;
+        QSignalSpy spy(&bar, &TitleBar::languageChanged);
+        languageAction(bar, "zh_CN")->trigger();
+        QCOMPARE(spy.count(), 0);
+        QVERIFY(!settings().contains(QStringLiteral("language")));
+    }
+
+    void choosingAnotherLanguageStoresAndSignals()
+    {
+        TitleBar bar;
+        QSignalSpy spy(&bar, &TitleBar::languageChanged);
+        languageAction(bar, "pt")->trigger();
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0).at(0).toString(), QStringLiteral("pt"));
+        QCOMPARE(settings().value(QStringLiteral("language")).toString(), QStringLiteral("pt"));
+        QCOMPARE(bar.currentLanguage(), QStringLiteral("pt"));
+        languageAction(bar, "pt")->trigger();
+        QCOMPARE(spy.count(), 1);
+    }
+
+    void maximisedStateChangesButton()
+    {
+        TitleBar bar;
+        QCOMPARE(bar.maximizeButton()->kind(), int(WinButton::Maximize));
+        QCOMPARE(bar.maximizeButton()->toolTip(), QStringLiteral("最大化"));
+        bar.setMaximized(true);
+        QCOMPARE(bar.maximizeButton()->kind(), int(WinButton::Restore));
+        QCOMPARE(bar.maximizeButton()->toolTip(), QStringLiteral("还原"));
+        bar.setMaximized(false);
+        QCOMPARE(bar.maximizeButton()->kind(), int(WinButton::Maximize));
+    }
+
+    void buttonsEmit()
+    {
+        TitleBar bar;
+        QSignalSpy minimize(&bar, &TitleBar::minimizeRequested);
+        QSignalSpy maximize(&bar, &TitleBar::maximizeRequested);
+        QSignalSpy close(&bar, &TitleBar::closeRequested);
+        bar.findChild<WinButton*>(QStringLiteral("MinimizeButton"))->click();
+        bar.findChild<WinButton*>(QStringLiteral("MaximizeButton"))->click();
+        bar.findChild<WinButton*>(QStringLiteral("CloseButton"))->click();
+        QCOMPARE(minimize.count(), 1);
+        QCOMPARE(maximize.count(), 1);
+        QCOMPARE(close.count(), 1);
+    }
+
+    void doubleClickRequestsMaximize()
+    {
+        TitleBar bar;
+        QSignalSpy maximize(&bar, &TitleBar::maximizeRequested);
+        sendMouse(&bar, QEvent::MouseButtonDblClick, QPoint(50, 20), Qt::LeftButton, Qt::LeftButton);
+        QCOMPARE(maximize.count(), 1);
+        sendMouse(&bar, QEvent::MouseButtonDblClick, QPoint(50, 20), Qt::RightButton, Qt::RightButton);
+        QCOMPARE(maximize.count(), 1);
+    }
+
+    void dragMovesTheWindow()
+    {
+        QWidget window;
+        window.setGeometry(100, 100, 600, 300);
+        auto* bar = new TitleBar(&window);
+        bar->setGeometry(0, 0, 600, 40);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QPoint start = window.frameGeometry().topLeft();
+        sendMouse(bar, QEvent::MouseButtonPress, QPoint(100, 20), Qt::LeftButton, Qt::LeftButton);
+        sendMouse(bar, QEvent::MouseMove, QPoint(130, 45), Qt::NoButton, Qt::LeftButton);
+        QCOMPARE(window.frameGeometry().topLeft(), start + QPoint(30, 25));
+        sendMouse(bar, QEvent::MouseButtonRelease, QPoint(130, 45), Qt::LeftButton, Qt::NoButton);
+        const QPoint afterRelease = window.frameGeometry().topLeft();
+        sendMouse(bar, QEvent::MouseMove, QPoint(200, 20), Qt::NoButton, Qt::NoButton);
+        QCOMPARE(window.frameGeometry().topLeft(), afterRelease);
+    }
+
+    void dragWhileMaximisedRestoresUnderCursor()
+    {
+        QWidget window;
+        window.setGeometry(0, 0, 600, 300);
+        auto* bar = new TitleBar(&window);
+        bar->setGeometry(0, 0, 600, 40);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        bar->setMaximized(true);
+        QSignalSpy restore(bar, &TitleBar::maximizeRequested);
+        sendMouse(bar, QEvent::MouseButtonPress, QPoint(500, 10), Qt::LeftButton, Qt::LeftButton);
+        const QPoint cursor = bar->mapToGlobal(QPoint(520, 12));
+        sendMouse(bar, QEvent::MouseMove, QPoint(520, 12), Qt::NoButton, Qt::LeftButton);
+        QCOMPARE(restore.count(), 1);
+        // The window hangs centred under the cursor: half the bar's width and height.
+        QCOMPARE(window.frameGeometry().topLeft(), cursor - QPoint(300, 20));
+    }
+
+    void winButtonHoverColours_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QColor>("wash");
+        QTest::newRow("close turns red") << int(WinButton::Close) << QColor(0xE8, 0x11, 0x23);
+        // Black at alpha 18 over white.
+        QTest::newRow("minimise gets a grey wash") << int(WinButton::Minimize) << QColor(237, 237, 237);
+        QTest::newRow("menu gets a grey wash") << int(WinButton::Menu) << QColor(237, 237, 237);
+    }
+
+    void winButtonHoverColours()
+    {
+        QFETCH(int, kind);
+        QFETCH(QColor, wash);
+        WinButton button(kind);
+        QCOMPARE(button.size(), QSize(46, 32));
+        const QImage idle = paint(button);
+        QCOMPARE(QColor(idle.pixel(2, 2)), QColor(Qt::white));
+        QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+        QApplication::sendEvent(&button, &enter);
+        QVERIFY(button.isHovered());
+        const QImage hovered = paint(button);
+        const QColor corner(hovered.pixel(2, 2));
+        QVERIFY2(qAbs(corner.red() - wash.red()) <= 2 && qAbs(corner.green() - wash.green()) <= 2
+                     && qAbs(corner.blue() - wash.blue()) <= 2,
+                 qPrintable(corner.name()));
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(&button, &leave);
+        QVERIFY(!button.isHovered());
+    }
+
+    void closeCrossTurnsWhiteOnHover()
+    {
+        WinButton button(WinButton::Close);
+        const QPoint onCross(23, 16); // the centre, where both strokes cross
+        QVERIFY(QColor(paint(button).pixel(onCross)).blue() < 200);
+        QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+        QApplication::sendEvent(&button, &enter);
+        const QColor c(paint(button).pixel(onCross));
+        QVERIFY2(c.red() > 240 && c.green() > 200 && c.blue() > 200, qPrintable(c.name()));
+    }
+};
+
+QTEST_MAIN(tst_TitleBar)
+#include "tst_titlebar.moc"
