@@ -9,7 +9,11 @@
 // current language. One instance for the whole process.
 class LinkManager final : public QObject {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(LinkManager)
 public:
+    // Texts for link failures that the catalogues carry under this class's context.
+    enum class ErrorText { LoadFailed, BrowserTitle, BrowserFailed, ConfigTitle };
+
     static LinkManager* instance();
 
     QString getLink(const QString& category, const QString& key) const;
@@ -20,6 +24,9 @@ public:
 
     // The start-up rule that turns a locale name (zh_HK, de_DE) into one of the thirteen codes.
     static QString mapLocaleName(const QString& localeName);
+
+    // BrowserFailed takes the address that could not be opened as %1.
+    static QString errorText(ErrorText which, const QString& url = QString());
 
     // Tests build their own catalogue from a file of their choice.
     explicit LinkManager(const QString& linksFile, QObject* parent = nullptr);
