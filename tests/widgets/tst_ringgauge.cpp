@@ -5,7 +5,6 @@
 #include <QtMath>
 
 namespace {
-constexpr int Size = 130;
 // The ring is drawn in the rectangle (9, 9, 112, 112): centre (65, 65), radius 56, 10 px wide.
 constexpr qreal CentreXY = 65.0;
 constexpr qreal Radius = 56.0;
@@ -49,7 +48,6 @@ class tst_RingGauge : public QObject {
     Q_OBJECT
 
 private slots:
-    void fixedSize();
     void arcColourFollowsValue_data();
     void arcColourFollowsValue();
     void arcRunsClockwiseFromTwelve_data();
@@ -57,16 +55,6 @@ private slots:
     void textLines_data();
     void textLines();
 };
-
-void tst_RingGauge::fixedSize()
-{
-    RingGauge gauge(QStringLiteral("CPU"), Own);
-    QCOMPARE(gauge.size(), QSize(Size, Size));
-    QCOMPARE(gauge.minimumSize(), gauge.maximumSize());
-    QCOMPARE(gauge.value(), 0);
-    QVERIFY(gauge.detail().isEmpty());
-    QCOMPARE(gauge.label(), QStringLiteral("CPU"));
-}
 
 void tst_RingGauge::arcColourFollowsValue_data()
 {
