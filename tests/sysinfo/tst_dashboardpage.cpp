@@ -1,0 +1,238 @@
+#include "fakeplatform.h"
+
+#include "platform/registry.h"
+#include "sysinfo/dashboardpage.h"
+#include "sysinfo/systeminfoscanner.h"
+#include "widgets/circlebadge.h"
+#include "widgets/ringgauge.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using platform::Hive;
+
+namespace {
+
+constexpr wchar_t VersionKey[] = L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion";
+constexpr wchar_t PackagesKey[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Component Based Servicing\\Packages";
+constexpr std::uint64_t MinuteMs = 60'000;
+constexpr std::uint64_t HourMs = 60 * MinuteMs;
+
+template <typename T> T* child(const QWidget& page, const char* name)
+{
+    return page.findChild<T*>(QString::fromLatin1(name));
+}
+
+} // namespace
+
+class tst_DashboardPage : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void textsBeforeStaticInfo();
+    void textsAfterStaticInfo_data();
+    void textsAfterStaticInfo();
+    void gaugesShowMetrics_data();
+    void gaugesShowMetrics();
+    void quickActionNavigates_data();
+    void quickActionNavigates();
+
+private:
+    // Starts the page and waits until the static facts have reached the hero card.
+    bool startAndWait(DashboardPage& page);
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<FakePlatform> m_platform;
+};
+
+void tst_DashboardPage::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_dir->isValid());
+    m_platform = std::make_unique<FakePlatform>(m_dir->path());
+}
+
+void tst_DashboardPage::cleanup()
+{
+    m_platform.reset();
+    m_dir.reset();
+}
+
+bool tst_DashboardPage::startAndWait(DashboardPage& page)
+{
+    auto* scanner = page.findChild<SystemInfoScanner*>();
+    if (!scanner)
+        return false;
+    bool ready = false;
+    QObject context;
+    connect(scanner, &SystemInfoScanner::staticInfoReady, &context, [&ready] { ready = true; });
+    page.start();
+    // Our connection was made after the page's, so the page has handled the report once ours runs.
+    return QTest::qWaitFor([&ready] { return ready; }, 5000);
+}
+
+void tst_DashboardPage::textsBeforeStaticInfo()
+{
+    DashboardPage page(nullptr);
+    QCOMPARE(child<QLabel>(page, "DashboardOsLabel")->text(), QString::fromUtf8("正在读取系统信息…"));
+    QVERIFY(child<QLabel>(page, "DashboardBuildLabel")->text().isEmpty());
+    QVERIFY(child<QLabel>(page, "DashboardUptimeLabel")->text().isEmpty());
+    QCOMPARE(child<CircleBadge>(page, "DashboardUpdatesBadge")->text(), QString::fromUtf8("…"));
+    for (const char* name : { "DashboardCpuGauge", "DashboardMemoryGauge", "DashboardDiskGauge" })
+        QCOMPARE(child<RingGauge>(page, name)->value(), 0);
+}
+
+void tst_DashboardPage::textsAfterStaticInfo_data()
+{
+    QTest::addColumn<bool>("seedVersion");
+    QTest::addColumn<quint64>("uptimeMs");
+    QTest::addColumn<QString>("osText");
+    QTest::addColumn<QString>("buildText");
+    QTest::addColumn<QString>("uptimeText");
+
+    QTest::newRow("59 minutes") << true << quint64(59 * MinuteMs + 59'999) << "Windows 11 Pro"
+                                << "Build 22631.4460  23H2" << QString::fromUtf8("已运行 0 小时 59 分钟");
+    QTest::newRow("just under a day") << true << quint64(24 * HourMs - 1) << "Windows 11 Pro"
+                                      << "Build 22631.4460  23H2" << QString::fromUtf8("已运行 23 小时 59 分钟");
+    QTest::newRow("25 hours") << true << quint64(25 * HourMs + 30 * MinuteMs) << "Windows 11 Pro"
+                              << "Build 22631.4460  23H2" << QString::fromUtf8("已运行 1 天 1 小时");
+    QTest::newRow("no version key") << false << quint64(3 * HourMs) << "Windows"
+                                    << "" << QString::fromUtf8("已运行 3 小时 0 分钟");
+}
+
+void tst_DashboardPage::textsAfterStaticInfo()
+{
+    QFETCH(bool, seedVersion);
+    QFETCH(quint64, uptimeMs);
+
+    platform::Registry& reg = m_platform->registry();
+    if (seedVersion) {
+        reg.setString(Hive::LocalMachine, VersionKey, L"ProductName", L"Windows 10 Pro");
+        reg.setString(Hive::LocalMachine, VersionKey, L"CurrentBuildNumber", L"22631");
+        reg.setString(Hive::LocalMachine, VersionKey, L"DisplayVersion", L"23H2");
+        reg.setDword(Hive::LocalMachine, VersionKey, L"UBR", 4460);
+    }
+    for (const wchar_t* name : { L"Package_for_KB5031356~31bf3856ad364e35~amd64~~22621.2428.1.0",
+             L"Package_for_KB5032007~31bf3856ad364e35~amd64~~22621.2500.1.1",
+             L"Package_for_RollupFix~31bf3856ad364e35~amd64~~22621.2715.1.12" })
+        reg.createKey(Hive::LocalMachine, std::wstring(PackagesKey) + L"\\" + name);
+    m_platform->fakeCounters.ticks = uptimeMs;
+
+    DashboardPage page(nullptr);
+    QVERIFY(startAndWait(page));
+    QTEST(child<QLabel>(page, "DashboardOsLabel")->text(), "osText");
+    QTEST(child<QLabel>(page, "DashboardBuildLabel")->text(), "buildText");
+    QTEST(child<QLabel>(page, "DashboardUptimeLabel")->text(), "uptimeText");
+    QCOMPARE(child<CircleBadge>(page, "DashboardUpdatesBadge")->text(), QStringLiteral("2"));
+}
+
+void tst_DashboardPage::gaugesShowMetrics_data()
+{
+    QTest::addColumn<int>("cpu");
+    QTest::addColumn<uint>("mem");
+    QTest::addColumn<quint64>("memUsedMB");
+    QTest::addColumn<quint64>("memTotalMB");
+    QTest::addColumn<int>("disk");
+    QTest::addColumn<quint64>("diskUsedGB");
+    QTest::addColumn<quint64>("diskTotalGB");
+    QTest::addColumn<int>("cpuValue");
+    QTest::addColumn<int>("memValue");
+    QTest::addColumn<QString>("memDetail");
+    QTest::addColumn<QString>("diskDetail");
+
+    // 9.9 GiB of 15.9 GiB
+    QTest::newRow("memory figures truncate")
+        << 12 << 62u << quint64(10137) << quint64(16281) << 74 << quint64(356) << quint64(476) << 12 << 62 << "9/15 GB"
+        << "356/476 GB";
+    QTest::newRow("processor above 100 shows a full ring")
+        << 140 << 100u << quint64(1023) << quint64(1024) << 100 << quint64(64) << quint64(64) << 100 << 100 << "0/1 GB"
+        << "64/64 GB";
+    QTest::newRow("negative processor shows an empty ring")
+        << -3 << 0u << quint64(0) << quint64(0) << 0 << quint64(0) << quint64(0) << 0 << 0 << "0/0 GB"
+        << "0/0 GB";
+    QTest::newRow("memory load above 100 is capped") << 5 << 4'000'000'000u << quint64(2048) << quint64(4096) << 50
+                                                     << quint64(1) << quint64(2) << 5 << 100 << "2/4 GB"
+                                                     << "1/2 GB";
+}
+
+void tst_DashboardPage::gaugesShowMetrics()
+{
+    QFETCH(int, cpu);
+    QFETCH(uint, mem);
+    QFETCH(quint64, memUsedMB);
+    QFETCH(quint64, memTotalMB);
+    QFETCH(int, disk);
+    QFETCH(quint64, diskUsedGB);
+    QFETCH(quint64, diskTotalGB);
+
+    m_platform->fakeCounters.processors = 16;
+    DashboardPage page(nullptr);
+    QVERIFY(startAndWait(page));
+
+    SystemMetrics m;
+    m.cpuPercent = cpu;
+    m.memPercent = mem;
+    m.memUsedMB = memUsedMB;
+    m.memTotalMB = memTotalMB;
+    m.diskPercent = disk;
+    m.diskUsedGB = diskUsedGB;
+    m.diskTotalGB = diskTotalGB;
+    page.onMetricsUpdated(m);
+
+    auto* cpuGauge = child<RingGauge>(page, "DashboardCpuGauge");
+    auto* memGauge = child<RingGauge>(page, "DashboardMemoryGauge");
+    auto* diskGauge = child<RingGauge>(page, "DashboardDiskGauge");
+    QTEST(cpuGauge->value(), "cpuValue");
+    QCOMPARE(cpuGauge->detail(), QString::fromUtf8("16 核"));
+    QTEST(memGauge->value(), "memValue");
+    QTEST(memGauge->detail(), "memDetail");
+    QCOMPARE(diskGauge->value(), disk);
+    QTEST(diskGauge->detail(), "diskDetail");
+}
+
+void tst_DashboardPage::quickActionNavigates_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<int>("pageIndex");
+
+    QTest::newRow("disk cleanup") << 0 << QString::fromUtf8("🧹  磁盘清理") << 1;
+    QTest::newRow("software uninstall") << 1 << QString::fromUtf8("📦  软件卸载") << 2;
+    QTest::newRow("Windows apps") << 2 << QString::fromUtf8("🪟  Windows App") << 3;
+    QTest::newRow("browser extensions") << 3 << QString::fromUtf8("🧩  浏览器扩展") << 4;
+}
+
+void tst_DashboardPage::quickActionNavigates()
+{
+    QFETCH(int, position);
+    QFETCH(QString, title);
+    QFETCH(int, pageIndex);
+
+    DashboardPage page(nullptr);
+    page.resize(900, 640);
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+
+    const auto buttons
+        = child<QWidget>(page, "QuickActionsCard")->findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+    QCOMPARE(buttons.size(), 4);
+    QPushButton* button = buttons.at(position);
+    const auto labels = button->findChildren<QLabel*>();
+    QVERIFY(!labels.isEmpty());
+    QCOMPARE(labels.first()->text(), title);
+
+    QSignalSpy spy(&page, &DashboardPage::navigateTo);
+    // A click on the title text must reach the tile.
+    QTest::mouseClick(labels.first(), Qt::LeftButton);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.first().first().toInt(), pageIndex);
+}
+
+QTEST_MAIN(tst_DashboardPage)
+#include "tst_dashboardpage.moc"
