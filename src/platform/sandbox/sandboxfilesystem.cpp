@@ -97,7 +97,7 @@ bool readEntries(int dirFd, std::vector<Entry>& out)
             const char* name = buffer.data() + (pos - d->reclen) + offsetof(KernelDirent64, name);
             if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
                 continue;
-            out.push_back({std::string(name), d->type});
+            out.push_back({ std::string(name), d->type });
         }
     }
 }

@@ -58,8 +58,8 @@ bool readEntries(const std::wstring& folder, std::vector<Entry>& out, DWORD& err
     error = ERROR_SUCCESS;
     WIN32_FIND_DATAW data;
     const std::wstring pattern = folder + (folder.back() == L'\\' ? L"*" : L"\\*");
-    UniqueFind find(::FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &data, FindExSearchNameMatch, nullptr,
-        FIND_FIRST_EX_LARGE_FETCH));
+    UniqueFind find(::FindFirstFileExW(
+        pattern.c_str(), FindExInfoBasic, &data, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
     if (!find) {
         error = ::GetLastError();
         // A drive root has no "." entry, so an empty one reports "not found".
@@ -72,7 +72,7 @@ bool readEntries(const std::wstring& folder, std::vector<Entry>& out, DWORD& err
         const std::int64_t size
             = static_cast<std::int64_t>((static_cast<std::uint64_t>(data.nFileSizeHigh) << 32) | data.nFileSizeLow);
         const DWORD tag = (data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) ? data.dwReserved0 : 0;
-        out.push_back({n, data.dwFileAttributes, tag, size});
+        out.push_back({ n, data.dwFileAttributes, tag, size });
     } while (::FindNextFileW(find.get(), &data));
     error = ::GetLastError();
     if (error == ERROR_NO_MORE_FILES) {

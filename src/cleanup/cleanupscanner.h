@@ -1,0 +1,49 @@
+#pragma once
+
+#include "junkcategory.h"
+
+#include <QFuture>
+#include <QList>
+#include <QObject>
+
+#include <atomic>
+
+// Owns the fixed table of junk categories, measures them (scan) and empties the chosen ones
+// (clean). Both run on the global thread pool and report through signals emitted from there;
+// the table's sizes are written by the scan and may be read once scanFinished() has arrived.
+class CleanupScanner final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(CleanupScanner)
+public:
+    explicit CleanupScanner(QObject* parent = nullptr);
+    // Waits for a running scan or clean to reach the end of its current folder.
+    ~CleanupScanner() override;
+
+    void scan();
+    // Positions in the table; positions outside it are skipped.
+    void clean(const QList<int>& positions);
+
+    const QList<JunkCategory>& categories() const { return m_categories; }
+
+    // Cache folders of the Chromium-family browser whose channel folders (below Local AppData)
+    // are given, and of Firefox, in the order the table lists them.
+    static QStringList chromiumCacheFolders(const QString& localAppData, const QStringList& channels);
+    static QStringList firefoxCacheFolders(const QString& roamingAppData, const QString& localAppData);
+
+signals:
+    void scanProgress(int percent);
+    void scanFinished();
+    void cleanProgress(int percent);
+    void cleanFinished(qint64 bytesFreed);
+
+private:
+    void buildTable();
+    void runScan();
+    void runClean(const QList<int>& positions);
+    qint64 measure(const QStringList& paths) const;
+    void track(const QFuture<void>& future);
+
+    QList<JunkCategory> m_categories;
+    std::atomic<bool> m_stopping { false };
+    QList<QFuture<void>> m_tasks; // only touched on the owner's thread
+};
