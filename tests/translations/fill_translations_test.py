@@ -16,6 +16,8 @@ import unittest
 import xml.etree.ElementTree as ET
 
 HERE = os.path.dirname(os.path.abspath(__file__))
+# Importing the script must not leave a bytecode cache in the source tree.
+sys.dont_write_bytecode = True
 SCRIPT = os.path.join(HERE, "..", "..", "scripts", "fill-translations.py")
 spec = importlib.util.spec_from_file_location("fill_translations", SCRIPT)
 fill = importlib.util.module_from_spec(spec)
