@@ -109,14 +109,8 @@ void tst_Resources::styleSheetValues_data()
                                    << "GroupHeader" << 13 << 700 << "#1d4ed8";
     QTest::newRow("cleanup row name") << "QLabel"
                                       << "CleanName" << 13 << 600 << "#0f172a";
-    QTest::newRow("cleanup row path") << "QLabel"
-                                      << "CleanPath" << 11 << 400 << "#94a3b8";
-    QTest::newRow("program row meta") << "QLabel"
-                                      << "UninstallMeta" << 11 << 400 << "#94a3b8";
     QTest::newRow("safe badge") << "QLabel"
                                 << "BadgeSafe" << 10 << 700 << "#166534";
-    QTest::newRow("caution badge") << "QLabel"
-                                   << "BadgeCaution" << 10 << 700 << "#92400e";
     QTest::newRow("brand name") << "QLabel"
                                 << "BrandNameLabel" << 15 << 700 << "#ffffff";
     QTest::newRow("brand version, translucent") << "QLabel"
