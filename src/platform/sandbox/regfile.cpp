@@ -224,8 +224,8 @@ void writeNode(std::wstring& out, const std::wstring& fullPath, const RegNode& n
         if (isPlainString(v)) {
             line += quote(decodeRegistryString(v.data.data(), v.data.size()));
         } else if (v.type == TypeDword && v.data.size() == 4) {
-            const std::uint32_t n = v.data[0] | (v.data[1] << 8) | (v.data[2] << 16) |
-                                    (static_cast<std::uint32_t>(v.data[3]) << 24);
+            const std::uint32_t n
+                = v.data[0] | (v.data[1] << 8) | (v.data[2] << 16) | (static_cast<std::uint32_t>(v.data[3]) << 24);
             wchar_t buf[16];
             swprintf(buf, 16, L"dword:%08x", n);
             line += buf;
@@ -250,8 +250,8 @@ void writeNode(std::wstring& out, const std::wstring& fullPath, const RegNode& n
 
 bool KeyNameLess::operator()(const std::wstring& a, const std::wstring& b) const
 {
-    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                        [](wchar_t x, wchar_t y) { return upper(x) < upper(y); });
+    return std::lexicographical_compare(
+        a.begin(), a.end(), b.begin(), b.end(), [](wchar_t x, wchar_t y) { return upper(x) < upper(y); });
 }
 
 RegNode* RegNode::child(const std::wstring& n) const
@@ -296,7 +296,8 @@ void RegNode::setValue(const RawValue& v)
 
 bool RegNode::removeValue(const std::wstring& n)
 {
-    const auto it = std::find_if(values.begin(), values.end(), [&](const RawValue& v) { return equalsNoCase(v.name, n); });
+    const auto it
+        = std::find_if(values.begin(), values.end(), [&](const RawValue& v) { return equalsNoCase(v.name, n); });
     if (it == values.end())
         return false;
     values.erase(it);
@@ -475,6 +476,11 @@ std::string RegFile::serialize(const RegTree& tree)
 {
     std::wstring out = L"Windows Registry Editor Version 5.00\r\n\r\n";
     for (const auto& [hive, root] : tree.hives) {
+        // Values may sit on a hive's root key too; only then is the bare hive written.
+        if (!root.values.empty()) {
+            writeNode(out, hiveName(hive), root);
+            continue;
+        }
         for (const auto& [name, child] : root.children)
             writeNode(out, hiveName(hive) + L"\\" + child->name, *child);
     }

@@ -13,26 +13,26 @@ SandboxEnvironment::SandboxEnvironment(std::wstring root)
     const std::wstring windows = m_drive + L"/Windows";
     const std::wstring local = profile + L"/AppData/Local";
     const std::pair<const wchar_t*, std::wstring> vars[] = {
-        {L"SystemDrive", L"C:"},
-        {L"SystemRoot", windows},
-        {L"windir", windows},
-        {L"USERPROFILE", profile},
-        {L"USERNAME", L"User"},
-        {L"COMPUTERNAME", L"NORVALE-DEMO"},
-        {L"HOMEDRIVE", L"C:"},
-        {L"HOMEPATH", L"\\Users\\User"},
-        {L"APPDATA", profile + L"/AppData/Roaming"},
-        {L"LOCALAPPDATA", local},
-        {L"TEMP", local + L"/Temp"},
-        {L"TMP", local + L"/Temp"},
-        {L"ProgramData", m_drive + L"/ProgramData"},
-        {L"ALLUSERSPROFILE", m_drive + L"/ProgramData"},
-        {L"PUBLIC", m_drive + L"/Users/Public"},
-        {L"ProgramFiles", m_drive + L"/Program Files"},
-        {L"ProgramFiles(x86)", m_drive + L"/Program Files (x86)"},
-        {L"ProgramW6432", m_drive + L"/Program Files"},
-        {L"CommonProgramFiles", m_drive + L"/Program Files/Common Files"},
-        {L"CommonProgramFiles(x86)", m_drive + L"/Program Files (x86)/Common Files"},
+        { L"SystemDrive", L"C:" },
+        { L"SystemRoot", windows },
+        { L"windir", windows },
+        { L"USERPROFILE", profile },
+        { L"USERNAME", L"User" },
+        { L"COMPUTERNAME", L"NORVALE-DEMO" },
+        { L"HOMEDRIVE", L"C:" },
+        { L"HOMEPATH", L"\\Users\\User" },
+        { L"APPDATA", profile + L"/AppData/Roaming" },
+        { L"LOCALAPPDATA", local },
+        { L"TEMP", local + L"/Temp" },
+        { L"TMP", local + L"/Temp" },
+        { L"ProgramData", m_drive + L"/ProgramData" },
+        { L"ALLUSERSPROFILE", m_drive + L"/ProgramData" },
+        { L"PUBLIC", m_drive + L"/Users/Public" },
+        { L"ProgramFiles", m_drive + L"/Program Files" },
+        { L"ProgramFiles(x86)", m_drive + L"/Program Files (x86)" },
+        { L"ProgramW6432", m_drive + L"/Program Files" },
+        { L"CommonProgramFiles", m_drive + L"/Program Files/Common Files" },
+        { L"CommonProgramFiles(x86)", m_drive + L"/Program Files (x86)/Common Files" },
     };
     for (const auto& [name, value] : vars)
         m_vars[lowerAscii(name)] = value;
@@ -84,14 +84,10 @@ std::wstring SandboxEnvironment::expand(const std::wstring& text) const
         }
         out += text.substr(pos, open - pos);
         const auto value = variable(text.substr(open + 1, close - open - 1));
-        if (value) {
-            out += *value;
-            pos = close + 1;
-        } else {
-            // Unknown names stay as written; the closing % may open the next name.
-            out += text.substr(open, close - open);
-            pos = close;
-        }
+        // An unknown name stays as written, both percent signs included, and the scan goes on
+        // after it: "100% %TEMP%" keeps "% %" and leaves "TEMP%" alone, as Windows does.
+        out += value ? *value : text.substr(open, close - open + 1);
+        pos = close + 1;
     }
     return out;
 }

@@ -31,8 +31,8 @@ bool SandboxRegistry::keyExists(Hive hive, const std::wstring& path) const
     return m_tree.find(hive, path) != nullptr;
 }
 
-std::optional<std::vector<std::wstring>> SandboxRegistry::subKeys(Hive hive, const std::wstring& path,
-                                                                  std::size_t maxNameChars) const
+std::optional<std::vector<std::wstring>> SandboxRegistry::subKeys(
+    Hive hive, const std::wstring& path, std::size_t maxNameChars) const
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     const RegNode* node = m_tree.find(hive, path);
@@ -58,9 +58,8 @@ std::optional<std::uint32_t> SandboxRegistry::subKeyCount(Hive hive, const std::
     return static_cast<std::uint32_t>(node->children.size());
 }
 
-std::optional<std::vector<EnumeratedValue>> SandboxRegistry::enumValues(Hive hive, const std::wstring& path,
-                                                                        std::size_t maxNameChars,
-                                                                        std::size_t maxDataBytes) const
+std::optional<std::vector<EnumeratedValue>> SandboxRegistry::enumValues(
+    Hive hive, const std::wstring& path, std::size_t maxNameChars, std::size_t maxDataBytes) const
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     const RegNode* node = m_tree.find(hive, path);
@@ -81,8 +80,8 @@ std::optional<std::vector<EnumeratedValue>> SandboxRegistry::enumValues(Hive hiv
     return out;
 }
 
-Status SandboxRegistry::queryValue(Hive hive, const std::wstring& path, const std::wstring& name,
-                                   std::size_t maxDataBytes, RawValue& out) const
+Status SandboxRegistry::queryValue(
+    Hive hive, const std::wstring& path, const std::wstring& name, std::size_t maxDataBytes, RawValue& out) const
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     const RegNode* node = m_tree.find(hive, path);
@@ -113,6 +112,10 @@ Status SandboxRegistry::setValue(Hive hive, const std::wstring& path, const RawV
 
 Status SandboxRegistry::deleteTree(Hive hive, const std::wstring& path)
 {
+    // A path naming no key below the hive would mean the hive itself, which is never deleted;
+    // reporting that as "already gone" would hide a caller's empty key name.
+    if (splitKeyPath(path).empty())
+        return Status::Failed;
     std::lock_guard<std::mutex> lock(m_mutex);
     if (!m_tree.remove(hive, path))
         return Status::Ok;
