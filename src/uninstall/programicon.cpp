@@ -75,10 +75,12 @@ QImage ProgramIcon::fromLocation(const QString& text)
             return QImage();
         loc.path = expanded;
     }
-    if (!QFileInfo::exists(UninstallManager::localPath(loc.path)))
+    // Expanded variables may bring forward slashes and the entry backslashes; one kind of
+    // separator serves both the existence check and the extraction.
+    const QString path = QDir::toNativeSeparators(loc.path.replace(QLatin1Char('\\'), QLatin1Char('/')));
+    if (!QFileInfo::exists(UninstallManager::localPath(path)))
         return QImage();
-    const platform::IconResult result
-        = platform::current().icons().extract(QDir::toNativeSeparators(loc.path).toStdWString(), loc.index);
+    const platform::IconResult result = platform::current().icons().extract(path.toStdWString(), loc.index);
     return toImage(result.image);
 }
 

@@ -1,66 +1,39 @@
 #include "winiconextractor.h"
 
+#include "winhandle.h"
+
 #include <windows.h>
 
 #include <shellapi.h>
 
+#include <climits>
 #include <utility>
 
 namespace platform {
 
 namespace {
 
-// Move-only owner of a GDI or icon handle; releasing keeps GetLastError() as it was.
-template <typename H, BOOL(WINAPI* Close)(H)> class UniqueGdi {
-public:
-    UniqueGdi() = default;
-    explicit UniqueGdi(H h)
-        : m_handle(h)
-    {
-    }
-    ~UniqueGdi() { reset(); }
-    UniqueGdi(UniqueGdi&& other) noexcept
-        : m_handle(other.release())
-    {
-    }
-    UniqueGdi& operator=(UniqueGdi&& other) noexcept
-    {
-        if (this != &other)
-            reset(other.release());
-        return *this;
-    }
-    UniqueGdi(const UniqueGdi&) = delete;
-    UniqueGdi& operator=(const UniqueGdi&) = delete;
-
-    H get() const { return m_handle; }
-    H* put()
-    {
-        reset();
-        return &m_handle;
-    }
-    H release() { return std::exchange(m_handle, nullptr); }
-    void reset(H h = nullptr)
-    {
-        if (m_handle) {
-            const DWORD err = GetLastError();
-            Close(m_handle);
-            SetLastError(err);
-        }
-        m_handle = h;
-    }
-
-private:
-    H m_handle = nullptr;
+struct HiconTraits {
+    using type = HICON;
+    static type invalid() { return nullptr; }
+    static void close(type icon) { ::DestroyIcon(icon); }
 };
 
-BOOL WINAPI deleteBitmap(HBITMAP h)
-{
-    return DeleteObject(h);
-}
+struct HbitmapTraits {
+    using type = HBITMAP;
+    static type invalid() { return nullptr; }
+    static void close(type bitmap) { ::DeleteObject(bitmap); }
+};
 
-using UniqueIcon = UniqueGdi<HICON, DestroyIcon>;
-using UniqueBitmap = UniqueGdi<HBITMAP, deleteBitmap>;
-using UniqueDc = UniqueGdi<HDC, DeleteDC>;
+struct MemoryDcTraits {
+    using type = HDC;
+    static type invalid() { return nullptr; }
+    static void close(type dc) { ::DeleteDC(dc); }
+};
+
+using UniqueIcon = UniqueAny<HiconTraits>;
+using UniqueBitmap = UniqueAny<HbitmapTraits>;
+using UniqueDc = UniqueAny<MemoryDcTraits>;
 
 // Icons are 256 pixels wide at most; anything larger is not an icon worth copying.
 constexpr LONG MaxIconSide = 1024;

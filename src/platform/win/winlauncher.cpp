@@ -1,54 +1,12 @@
 #include "winlauncher.h"
 
+#include "winhandle.h"
+
 #include <windows.h>
 
 #include <shellapi.h>
 
-#include <utility>
-
 namespace platform {
-
-namespace {
-
-// Owns a process handle; closing keeps GetLastError() as it was.
-class UniqueProcessHandle {
-public:
-    UniqueProcessHandle() = default;
-    explicit UniqueProcessHandle(HANDLE h)
-        : m_handle(h)
-    {
-    }
-    ~UniqueProcessHandle() { reset(); }
-    UniqueProcessHandle(UniqueProcessHandle&& other) noexcept
-        : m_handle(other.release())
-    {
-    }
-    UniqueProcessHandle& operator=(UniqueProcessHandle&& other) noexcept
-    {
-        if (this != &other)
-            reset(other.release());
-        return *this;
-    }
-    UniqueProcessHandle(const UniqueProcessHandle&) = delete;
-    UniqueProcessHandle& operator=(const UniqueProcessHandle&) = delete;
-
-    HANDLE get() const { return m_handle; }
-    HANDLE release() { return std::exchange(m_handle, nullptr); }
-    void reset(HANDLE h = nullptr)
-    {
-        if (m_handle) {
-            const DWORD err = GetLastError();
-            CloseHandle(m_handle);
-            SetLastError(err);
-        }
-        m_handle = h;
-    }
-
-private:
-    HANDLE m_handle = nullptr;
-};
-
-} // namespace
 
 ShellExecuteResult WinLauncher::shellExecuteAndWait(const ShellExecuteRequest& request, std::uint32_t timeoutMs)
 {
@@ -65,7 +23,7 @@ ShellExecuteResult WinLauncher::shellExecuteAndWait(const ShellExecuteRequest& r
     info.nShow = request.show;
 
     const BOOL ok = ShellExecuteExW(&info);
-    UniqueProcessHandle process(info.hProcess);
+    UniqueHandle process(info.hProcess);
     if (!ok || !process.get()) {
         result.error = GetLastError();
         return result;
