@@ -108,6 +108,12 @@ ShellExecuteResult SandboxLauncher::shellExecuteAndWait(const ShellExecuteReques
             return result;
         }
         const std::wstring code = request.parameters.substr(open, close - open + 1);
+        // A product code names a file below; nothing but a GUID may shape that name.
+        const bool guidLike = code.find_first_not_of(L"{}-0123456789ABCDEFabcdef") == std::wstring::npos;
+        if (!guidLike) {
+            result.exitCode = ErrorUnknownProduct;
+            return result;
+        }
         const auto script = readText(fs::path(toUtf8(env.mapPath(L"C:/Windows/Installer/" + code + demoSuffix()))));
         if (!script) {
             result.exitCode = ErrorUnknownProduct;

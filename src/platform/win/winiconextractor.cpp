@@ -113,6 +113,10 @@ bool iconToRgba(HICON icon, IconImage& out)
 IconResult WinIconExtractor::extract(const std::wstring& path, int index)
 {
     IconResult result;
+    if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) {
+        result.error = GetLastError();
+        return result;
+    }
     UniqueIcon large;
     UniqueIcon small;
     const UINT count = ExtractIconExW(path.c_str(), index, large.put(), small.put(), 1);
@@ -128,8 +132,11 @@ IconResult WinIconExtractor::extract(const std::wstring& path, int index)
         else
             result.error = result.error ? result.error : GetLastError();
     }
-    if (!chosen.get())
+    if (!chosen.get()) {
+        if (result.error == 0)
+            result.error = ERROR_RESOURCE_TYPE_NOT_FOUND; // the calls do not always say why
         return result;
+    }
     if (!iconToRgba(chosen.get(), result.image)) {
         result.image = IconImage();
         result.error = GetLastError();
