@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QSettings>
 #include <QStringList>
+#include <QStyle>
 #include <QTest>
 
 namespace {

@@ -27,9 +27,13 @@ QAction* languageAction(TitleBar& bar, const QString& code)
     return nullptr;
 }
 
+// Buttons paint on a transparent background; the title bar under them is white.
 QImage paint(QWidget& w)
 {
-    return w.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QImage image(w.size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    w.render(&image);
+    return image;
 }
 
 void sendMouse(QWidget* target, QEvent::Type type, const QPoint& local, Qt::MouseButton button,
