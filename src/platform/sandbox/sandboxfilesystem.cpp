@@ -128,31 +128,46 @@ unsigned char entryType(int dirFd, const Entry& e)
     return DT_UNKNOWN;
 }
 
+// The scan's hot path: files are measured straight from the listing buffer, and only the names
+// of sub-folders are copied out before descending.
 std::int64_t sizeBelow(int dirFd, dev_t device, int depth)
 {
-    std::vector<Entry> entries;
-    if (!readEntries(dirFd, entries))
-        return 0;
+    static thread_local std::vector<char> buffer(ListingBufferBytes);
     std::int64_t total = 0;
-    std::vector<const Entry*> folders;
-    for (const Entry& e : entries) {
-        if (e.type == DT_REG || e.type == DT_UNKNOWN) {
-            struct stat st;
-            if (::fstatat(dirFd, e.name.c_str(), &st, AT_SYMLINK_NOFOLLOW) != 0)
+    std::vector<std::string> folders;
+    for (;;) {
+        const ssize_t n = ::getdents64(dirFd, buffer.data(), buffer.size());
+        if (n == 0)
+            break;
+        if (n < 0) {
+            if (errno == EINTR)
                 continue;
-            if (S_ISREG(st.st_mode))
-                total += st.st_size;
-            else if (S_ISDIR(st.st_mode))
-                folders.push_back(&e);
-        } else if (e.type == DT_DIR) {
-            folders.push_back(&e);
+            break;
         }
-        // Links, sockets, pipes and devices hold no bytes of their own worth counting.
+        for (ssize_t pos = 0; pos < n;) {
+            const auto* d = reinterpret_cast<const KernelDirent64*>(buffer.data() + pos);
+            const char* name = buffer.data() + pos + offsetof(KernelDirent64, name);
+            pos += d->reclen;
+            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0')))
+                continue;
+            if (d->type == DT_DIR) {
+                folders.emplace_back(name);
+            } else if (d->type == DT_REG || d->type == DT_UNKNOWN) {
+                struct stat st;
+                if (::fstatat(dirFd, name, &st, AT_SYMLINK_NOFOLLOW) != 0)
+                    continue;
+                if (S_ISREG(st.st_mode))
+                    total += st.st_size;
+                else if (S_ISDIR(st.st_mode))
+                    folders.emplace_back(name);
+            }
+            // Links, sockets, pipes and devices hold no bytes of their own worth counting.
+        }
     }
     if (depth >= MaxDepth)
         return total;
-    for (const Entry* e : folders) {
-        UniqueFd fd(openSubfolder(dirFd, e->name.c_str()));
+    for (const std::string& name : folders) {
+        UniqueFd fd(openSubfolder(dirFd, name.c_str()));
         if (!fd.isValid())
             continue;
         struct stat st;
