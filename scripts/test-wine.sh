@@ -19,7 +19,7 @@ export WINEDEBUG=-all
 unset DISPLAY WAYLAND_DISPLAY
 exec </dev/null
 
-log() { echo "[test-wine] $*"; }
+log() { echo "[test-wine] $(($(date +%s) - started)) s: $*"; }
 
 stop_wine() {
     # Only the server of this lane's prefix; it takes its helper processes with it.
@@ -50,5 +50,5 @@ log "running the tests"
 status=0
 (cd "$build" && ctest --output-on-failure) || status=$?
 
-log "finished in $(($(date +%s) - started)) s with status $status"
+log "finished with status $status"
 exit "$status"
