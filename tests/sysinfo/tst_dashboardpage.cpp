@@ -134,66 +134,46 @@ void tst_DashboardPage::textsAfterStaticInfo()
 
 void tst_DashboardPage::gaugesShowMetrics_data()
 {
-    QTest::addColumn<int>("cpu");
-    QTest::addColumn<uint>("mem");
-    QTest::addColumn<quint64>("memUsedMB");
-    QTest::addColumn<quint64>("memTotalMB");
-    QTest::addColumn<int>("disk");
-    QTest::addColumn<quint64>("diskUsedGB");
-    QTest::addColumn<quint64>("diskTotalGB");
-    QTest::addColumn<int>("cpuValue");
-    QTest::addColumn<int>("memValue");
-    QTest::addColumn<QString>("memDetail");
-    QTest::addColumn<QString>("diskDetail");
+    QTest::addColumn<SystemMetrics>("metrics");
+    QTest::addColumn<QString>("shown"); // value and detail of each gauge
 
+    const auto metrics = [](int cpu, uint mem, quint64 memUsedMB, quint64 memTotalMB) {
+        SystemMetrics m;
+        m.cpuPercent = cpu;
+        m.memPercent = mem;
+        m.memUsedMB = memUsedMB;
+        m.memTotalMB = memTotalMB;
+        m.diskPercent = 74;
+        m.diskUsedGB = 356;
+        m.diskTotalGB = 476;
+        return m;
+    };
     // 9.9 GiB of 15.9 GiB
     QTest::newRow("memory figures truncate")
-        << 12 << 62u << quint64(10137) << quint64(16281) << 74 << quint64(356) << quint64(476) << 12 << 62 << "9/15 GB"
-        << "356/476 GB";
+        << metrics(12, 62, 10137, 16281) << QString::fromUtf8("12 16 核 | 62 9/15 GB | 74 356/476 GB");
     QTest::newRow("processor above 100 shows a full ring")
-        << 140 << 100u << quint64(1023) << quint64(1024) << 100 << quint64(64) << quint64(64) << 100 << 100 << "0/1 GB"
-        << "64/64 GB";
+        << metrics(140, 50, 1023, 1024) << QString::fromUtf8("100 16 核 | 50 0/1 GB | 74 356/476 GB");
     QTest::newRow("negative processor shows an empty ring")
-        << -3 << 0u << quint64(0) << quint64(0) << 0 << quint64(0) << quint64(0) << 0 << 0 << "0/0 GB"
-        << "0/0 GB";
-    QTest::newRow("memory load above 100 is capped") << 5 << 4'000'000'000u << quint64(2048) << quint64(4096) << 50
-                                                     << quint64(1) << quint64(2) << 5 << 100 << "2/4 GB"
-                                                     << "1/2 GB";
+        << metrics(-3, 0, 0, 0) << QString::fromUtf8("0 16 核 | 0 0/0 GB | 74 356/476 GB");
+    QTest::newRow("memory load above 100 is capped")
+        << metrics(5, 4'000'000'000u, 2048, 4096) << QString::fromUtf8("5 16 核 | 100 2/4 GB | 74 356/476 GB");
 }
 
 void tst_DashboardPage::gaugesShowMetrics()
 {
-    QFETCH(int, cpu);
-    QFETCH(uint, mem);
-    QFETCH(quint64, memUsedMB);
-    QFETCH(quint64, memTotalMB);
-    QFETCH(int, disk);
-    QFETCH(quint64, diskUsedGB);
-    QFETCH(quint64, diskTotalGB);
+    QFETCH(SystemMetrics, metrics);
 
     m_platform->fakeCounters.processors = 16;
     DashboardPage page(nullptr);
     QVERIFY(startAndWait(page));
+    page.onMetricsUpdated(metrics);
 
-    SystemMetrics m;
-    m.cpuPercent = cpu;
-    m.memPercent = mem;
-    m.memUsedMB = memUsedMB;
-    m.memTotalMB = memTotalMB;
-    m.diskPercent = disk;
-    m.diskUsedGB = diskUsedGB;
-    m.diskTotalGB = diskTotalGB;
-    page.onMetricsUpdated(m);
-
-    auto* cpuGauge = child<RingGauge>(page, "DashboardCpuGauge");
-    auto* memGauge = child<RingGauge>(page, "DashboardMemoryGauge");
-    auto* diskGauge = child<RingGauge>(page, "DashboardDiskGauge");
-    QTEST(cpuGauge->value(), "cpuValue");
-    QCOMPARE(cpuGauge->detail(), QString::fromUtf8("16 核"));
-    QTEST(memGauge->value(), "memValue");
-    QTEST(memGauge->detail(), "memDetail");
-    QCOMPARE(diskGauge->value(), disk);
-    QTEST(diskGauge->detail(), "diskDetail");
+    QStringList shown;
+    for (const char* name : { "DashboardCpuGauge", "DashboardMemoryGauge", "DashboardDiskGauge" }) {
+        const auto* gauge = child<RingGauge>(page, name);
+        shown << QStringLiteral("%1 %2").arg(gauge->value()).arg(gauge->detail());
+    }
+    QTEST(shown.join(QStringLiteral(" | ")), "shown");
 }
 
 void tst_DashboardPage::quickActionNavigates_data()

