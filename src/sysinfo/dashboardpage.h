@@ -13,6 +13,7 @@ class SystemInfoScanner;
 // updates, three live gauges, and quick actions that lead to the other pages.
 class DashboardPage final : public QWidget {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(DashboardPage)
 public:
     explicit DashboardPage(QWidget* parent = nullptr);
 

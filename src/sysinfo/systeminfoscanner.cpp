@@ -62,6 +62,8 @@ SystemInfoScanner::~SystemInfoScanner()
 
 void SystemInfoScanner::loadStaticInfo()
 {
+    if (m_staticTask.isRunning())
+        return; // the facts are on their way already
     m_staticTask = QtConcurrent::run([this] { gatherStaticInfo(); });
 }
 
