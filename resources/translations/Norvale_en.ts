@@ -12,188 +12,188 @@
     <name>CleanupPage</name>
     <message>
         <source>磁盘清理</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk Cleanup</translation>
     </message>
     <message>
         <source>扫描系统垃圾文件，安全释放磁盘空间</source>
-        <translation type="unfinished"></translation>
+        <translation>Scan system junk files, safely release disk space</translation>
     </message>
     <message>
         <source>正在扫描…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning...</translation>
     </message>
     <message>
         <source>请稍候</source>
-        <translation type="unfinished"></translation>
+        <translation>Please wait</translation>
     </message>
     <message>
         <source>🔄 重新扫描</source>
-        <translation type="unfinished"></translation>
+        <translation>🔄 Rescan</translation>
     </message>
     <message>
         <source>☑ 全选</source>
-        <translation type="unfinished"></translation>
+        <translation>☑ Select All</translation>
     </message>
     <message>
         <source>🗑 清理选中项</source>
-        <translation type="unfinished"></translation>
+        <translation>Clean up selected items</translation>
     </message>
     <message>
         <source>扫描完成</source>
-        <translation type="unfinished"></translation>
+        <translation>Scan completed</translation>
     </message>
     <message>
         <source>✓ 清理完成，释放 &lt;b&gt;%1&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ Cleanup completed, released &lt;b&gt;%1&lt;/b&gt;</translation>
     </message>
     <message>
         <source>☐ 取消全选</source>
-        <translation type="unfinished"></translation>
+        <translation>☐ Deselect All</translation>
     </message>
     <message>
         <source>已选 &lt;b&gt;%1&lt;/b&gt; 类  ·  预计释放 &lt;b&gt;%2&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Selected &lt;b&gt;%1&lt;/b&gt; categories  ·  Estimated release &lt;b&gt;%2&lt;/b&gt;</translation>
     </message>
     <message>
         <source>发现 %1 类可清理文件，共 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Found %1 types of files that can be cleaned, totaling %2</translation>
     </message>
     <message>
         <source>已选 %1 类  ·  预计释放 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Selected %1 types  ·  Estimated release %2</translation>
     </message>
 </context>
 <context>
     <name>CleanupRowWidget</name>
     <message>
         <source>扫描中…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning...</translation>
     </message>
 </context>
 <context>
     <name>CleanupScanner</name>
     <message>
         <source>Windows 临时文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows Temporary Files</translation>
     </message>
     <message>
         <source>Windows Update 缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows Update Cache</translation>
     </message>
     <message>
         <source>Google Chrome 缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Google Chrome Cache</translation>
     </message>
     <message>
         <source>Microsoft Edge 缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsoft Edge Cache</translation>
     </message>
     <message>
         <source>Mozilla Firefox 缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Mozilla Firefox Cache</translation>
     </message>
     <message>
         <source>系统日志文件</source>
-        <translation type="unfinished"></translation>
+        <translation>System Log Files</translation>
     </message>
     <message>
         <source>Prefetch 预读缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Prefetch Read Cache</translation>
     </message>
     <message>
         <source>缩略图缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Thumbnail Cache</translation>
     </message>
     <message>
         <source>崩溃转储文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Crash Dump File</translation>
     </message>
     <message>
         <source>回收站</source>
-        <translation type="unfinished"></translation>
+        <translation>Recycle Bin</translation>
     </message>
     <message>
         <source>Windows 旧系统备份</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows Old System Backup</translation>
     </message>
 </context>
 <context>
     <name>DashboardPage</name>
     <message>
         <source>磁盘清理</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk Cleanup</translation>
     </message>
     <message>
         <source>清理垃圾文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Clean up junk files</translation>
     </message>
     <message>
         <source>软件卸载</source>
-        <translation type="unfinished"></translation>
+        <translation>Software Uninstall</translation>
     </message>
     <message>
         <source>管理已装软件</source>
-        <translation type="unfinished"></translation>
+        <translation>Manage Installed Software</translation>
     </message>
     <message>
         <source>Windows App</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows App</translation>
     </message>
     <message>
         <source>管理UWP应用</source>
-        <translation type="unfinished"></translation>
+        <translation>Manage UWP Applications</translation>
     </message>
     <message>
         <source>浏览器扩展</source>
-        <translation type="unfinished"></translation>
+        <translation>Browser Extension</translation>
     </message>
     <message>
         <source>管理扩展插件</source>
-        <translation type="unfinished"></translation>
+        <translation>Manage Extensions</translation>
     </message>
     <message>
         <source>系统概览</source>
-        <translation type="unfinished"></translation>
+        <translation>System Overview</translation>
     </message>
     <message>
         <source>● 实时</source>
-        <translation type="unfinished"></translation>
+        <translation>● Real-time</translation>
     </message>
     <message>
         <source>正在读取系统信息…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading system information...</translation>
     </message>
     <message>
         <source>已安装更新</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates Installed</translation>
     </message>
     <message>
         <source>实时性能</source>
-        <translation type="unfinished"></translation>
+        <translation>Real-time Performance</translation>
     </message>
     <message>
         <source>内存</source>
-        <translation type="unfinished"></translation>
+        <translation>Memory</translation>
     </message>
     <message>
         <source>磁盘</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk</translation>
     </message>
     <message>
         <source>快速操作</source>
-        <translation type="unfinished"></translation>
+        <translation>Quick Actions</translation>
     </message>
     <message>
         <source>%1 核</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Core</translation>
     </message>
     <message>
         <source>已运行 %1 小时 %2 分钟</source>
-        <translation type="unfinished"></translation>
+        <translation>Running for %1 hours %2 minutes</translation>
     </message>
     <message>
         <source>已运行 %1 天 %2 小时</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 days %2 hours running</translation>
     </message>
 </context>
 <context>
