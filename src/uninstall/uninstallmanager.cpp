@@ -149,22 +149,27 @@ UninstallManager::~UninstallManager()
 {
     m_stopping = true;
     m_refresh.waitForFinished();
+    m_previousRefresh.waitForFinished();
     m_batch.waitForFinished();
 }
 
 void UninstallManager::refresh()
 {
-    if (isRefreshing())
+    if (m_refreshing.exchange(true))
         return;
+    // The previous task may still be returning from its signal; the destructor waits for both.
+    m_previousRefresh = m_refresh;
     m_refresh = QtConcurrent::run([this] {
         rebuild();
+        // Cleared before the signal, so a receiver may start the next refresh at once.
+        m_refreshing = false;
         emit refreshFinished();
     });
 }
 
 bool UninstallManager::isRefreshing() const
 {
-    return m_refresh.isRunning();
+    return m_refreshing;
 }
 
 QList<InstalledApp> UninstallManager::apps() const

@@ -83,6 +83,8 @@ private:
     QList<UninstalledApp> m_history;
     QDate m_referenceDate;
     QFuture<void> m_refresh;
+    QFuture<void> m_previousRefresh;
     QFuture<void> m_batch;
+    std::atomic_bool m_refreshing { false };
     std::atomic_bool m_stopping { false };
 };

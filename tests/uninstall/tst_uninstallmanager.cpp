@@ -73,6 +73,7 @@ private slots:
     void mainExecutablePicksSmallest();
     void sortOrder();
     void refreshSortsAndClassifies();
+    void refreshFromTheFinishedSignal();
     void formatSize_data();
     void formatSize();
     void rot13_data();
@@ -416,6 +417,25 @@ void tst_UninstallManager::refreshSortsAndClassifies()
     QCOMPARE(order, QStringList({ "Forgotten Game", "Daily Editor", "Recent Tool", "Portable Thing" }));
     QCOMPARE(statuses, QStringList({ "old", "ok", "ok", "nouninstaller" }));
     QCOMPARE(manager.usageMap().size(), 2);
+}
+
+void tst_UninstallManager::refreshFromTheFinishedSignal()
+{
+    addEntry("A", "Recent Tool");
+    UninstallManager manager;
+    QSignalSpy done(&manager, &UninstallManager::refreshFinished);
+    int calls = 0;
+    // A receiver that refreshes again at once, on the worker's own thread, must not be ignored.
+    connect(
+        &manager, &UninstallManager::refreshFinished, this,
+        [&] {
+            if (++calls == 1)
+                manager.refresh();
+        },
+        Qt::DirectConnection);
+    manager.refresh();
+    QTRY_COMPARE_WITH_TIMEOUT(done.size(), 2, 10000);
+    QVERIFY(!manager.isRefreshing());
 }
 
 void tst_UninstallManager::formatSize_data()
