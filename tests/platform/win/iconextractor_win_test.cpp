@@ -77,20 +77,4 @@ TEST(WinIconExtractor, IconPixelsComeBackAsRgba)
     fs::remove(file);
 }
 
-TEST(WinIconExtractor, IndexBeyondTheIconsFallsBackToTheShell)
-{
-    const fs::path file = tempFolder() / L"one.ico";
-    const auto bytes = solidIcon(1, 2, 3);
-    std::ofstream(file, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), std::streamsize(bytes.size()));
-    platform::WinIconExtractor extractor;
-    const auto result = extractor.extract(file.wstring(), 5);
-    // The file has one icon; whatever the shell offers instead, it comes back as whole pixels.
-    if (!result.image.isNull())
-        EXPECT_EQ(result.image.rgba.size(), std::size_t(result.image.width) * std::size_t(result.image.height) * 4);
-    else
-        EXPECT_NE(result.error, 0u);
-    fs::remove(file);
-}
-
 } // namespace
