@@ -62,6 +62,9 @@ CleanupPage::CleanupPage(QWidget* parent)
     auto* contentLayout = new QVBoxLayout(content);
     contentLayout->setContentsMargins(24, 16, 24, 16);
     contentLayout->setSpacing(8);
+    // Handed to the scroll area while still empty: setWidget sizes the widget at once, and with its
+    // rows in place that would lay out every text before the window is first shown.
+    scroll->setWidget(content);
     contentLayout->addWidget(createHeaderCard());
 
     m_progress = new QProgressBar(content);
@@ -85,7 +88,6 @@ CleanupPage::CleanupPage(QWidget* parent)
     }
     contentLayout->addWidget(createBottomBar());
     contentLayout->addStretch();
-    scroll->setWidget(content);
     layout->addWidget(scroll, 1);
 
     // The page is "scanning" from the start, so nothing may start a clean before the first scan.

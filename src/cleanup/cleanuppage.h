@@ -18,6 +18,12 @@ public:
 
     CleanupScanner* scanner() const { return m_scanner; }
 
+    // The page always fills the main window's page stack, so its natural size tells nobody
+    // anything. Answering from the rows would lay out all eleven rows' texts before the window
+    // first shows, while this page is still hidden behind the dashboard.
+    QSize sizeHint() const override { return QSize(); }
+    QSize minimumSizeHint() const override { return QSize(); }
+
 private slots:
     void onScanProgress(int percent);
     void onScanFinished();

@@ -93,11 +93,13 @@ DashboardPage::DashboardPage(QWidget* parent)
     auto* contentLayout = new QVBoxLayout(content);
     contentLayout->setContentsMargins(24, 20, 24, 24);
     contentLayout->setSpacing(16);
+    // Handed to the scroll area while still empty: setWidget sizes the widget at once, and with its
+    // rows in place that would lay out every text before the window is first shown.
+    scroll->setWidget(content);
     contentLayout->addWidget(createHeroCard());
     contentLayout->addWidget(createGaugesCard());
     contentLayout->addWidget(createQuickActionsCard());
     contentLayout->addStretch();
-    scroll->setWidget(content);
     layout->addWidget(scroll, 1);
 }
 
