@@ -89,9 +89,9 @@ QString setUpTranslation()
     return code;
 }
 
-void applyStyleSheet()
+void applyStyleSheet(const QString& path)
 {
-    QFile file(QString::fromLatin1(StyleSheetPath));
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return;
     qApp->setStyleSheet(QString::fromUtf8(file.readAll()));

@@ -22,6 +22,7 @@ QString chooseTranslationCode(const QString& storedLanguage, const QString& syst
 // catalogue; returns the chosen code whether or not a catalogue was found.
 QString setUpTranslation();
 
-void applyStyleSheet();
+// A style sheet that cannot be opened is ignored: Fusion and the palette still give a usable look.
+void applyStyleSheet(const QString& path = QString::fromLatin1(StyleSheetPath));
 
 } // namespace Startup

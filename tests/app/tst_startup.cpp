@@ -85,6 +85,17 @@ private slots:
         QCOMPARE(g_log.last(), QStringLiteral("====================================="));
     }
 
+    void styleSheet()
+    {
+        qApp->setStyleSheet(QString());
+        Startup::applyStyleSheet(QStringLiteral(":/styles/missing.qss"));
+        QVERIFY(qApp->styleSheet().isEmpty());
+        QVERIFY(g_log.isEmpty());
+        Startup::applyStyleSheet();
+        QVERIFY(qApp->styleSheet().contains(QLatin1String("#NavButton")));
+        qApp->setStyleSheet(QString());
+    }
+
     void paletteAndFont()
     {
         Startup::applyStyleAndPalette();
