@@ -197,9 +197,9 @@ void tst_CleanupScanner::cacheDiscovery()
     QFETCH(QStringList, expected);
 
     CleanupSandbox sandbox;
-    const auto resolve = [&](const QString& spec) {
-        const QString rest = spec.mid(2);
-        return spec.startsWith(QLatin1String("L:")) ? sandbox.local(rest) : sandbox.roaming(rest);
+    const auto resolve = [&](const QString& pattern) {
+        const QString rest = pattern.mid(2);
+        return pattern.startsWith(QLatin1String("L:")) ? sandbox.local(rest) : sandbox.roaming(rest);
     };
     for (const QString& folder : folders)
         QVERIFY(CleanupSandbox::makeFolder(resolve(folder)));
@@ -211,14 +211,14 @@ void tst_CleanupScanner::cacheDiscovery()
     // A Firefox profile's caches keep the fixed name order "cache2", "startupCache", "shader-cache".
     const QStringList firefoxNames = { "cache2", "startupCache", "shader-cache" };
     QStringList wanted;
-    for (QString spec : expected) {
+    for (QString pattern : expected) {
         for (int i = 0; i < profiles.size(); ++i)
-            spec.replace(QStringLiteral("{%1}").arg(i), profiles.at(i));
-        if (!spec.endsWith(QLatin1String("/*"))) {
-            wanted << resolve(spec);
+            pattern.replace(QStringLiteral("{%1}").arg(i), profiles.at(i));
+        if (!pattern.endsWith(QLatin1String("/*"))) {
+            wanted << resolve(pattern);
             continue;
         }
-        const QString profileFolder = resolve(spec.chopped(2));
+        const QString profileFolder = resolve(pattern.chopped(2));
         for (const QString& name : firefoxNames) {
             if (QFileInfo(profileFolder + QLatin1Char('/') + name).isDir())
                 wanted << profileFolder + QLatin1Char('/') + name;
