@@ -56,11 +56,11 @@ int main(int argc, char* argv[])
         const char* name;
         int settleMs;
     } pages[] = {
-        {MainWindow::Dashboard, "dashboard", envInt("NORVALE_SHOT_DASHBOARD_MS", 3500)},
-        {MainWindow::Cleanup, "cleanup", envInt("NORVALE_SHOT_CLEANUP_MS", 5000)},
-        {MainWindow::Uninstall, "uninstall", envInt("NORVALE_SHOT_UNINSTALL_MS", 3000)},
-        {MainWindow::WinApps, "winapps", envInt("NORVALE_SHOT_WINAPPS_MS", 1500)},
-        {MainWindow::BrowserExtensions, "browserext", envInt("NORVALE_SHOT_BROWSEREXT_MS", 1500)},
+        { MainWindow::Dashboard, "dashboard", envInt("NORVALE_SHOT_DASHBOARD_MS", 3500) },
+        { MainWindow::Cleanup, "cleanup", envInt("NORVALE_SHOT_CLEANUP_MS", 5000) },
+        { MainWindow::Uninstall, "uninstall", envInt("NORVALE_SHOT_UNINSTALL_MS", 3000) },
+        { MainWindow::WinApps, "winapps", envInt("NORVALE_SHOT_WINAPPS_MS", 1500) },
+        { MainWindow::BrowserExtensions, "browserext", envInt("NORVALE_SHOT_BROWSEREXT_MS", 1500) },
     };
     int failures = 0;
     for (const auto& page : pages) {
@@ -72,6 +72,15 @@ int main(int argc, char* argv[])
             ++failures;
         }
     }
+
+    // The cleanup page in full: its eleven rows and bottom bar are taller than the window.
+    const QSize normalSize = window.size();
+    window.navigateTo(MainWindow::Cleanup);
+    window.resize(normalSize.width(), envInt("NORVALE_SHOT_TALL_HEIGHT", 1280));
+    wait(400);
+    if (!window.grab().save(QStringLiteral("%1/1-cleanup-full.png").arg(outDir)))
+        ++failures;
+    window.resize(normalSize);
 
     // The application menu, opened over the dashboard.
     window.navigateTo(MainWindow::Dashboard);
