@@ -32,17 +32,17 @@ void applyStyleAndPalette()
         QPalette::ColorRole role;
         QColor color;
     } roles[] = {
-        {QPalette::Window, white},
-        {QPalette::WindowText, ink},
-        {QPalette::Base, white},
-        {QPalette::AlternateBase, QColor(245, 245, 250)},
-        {QPalette::Text, ink},
-        {QPalette::Button, white},
-        {QPalette::ButtonText, ink},
-        {QPalette::Highlight, QColor(219, 234, 254)},
-        {QPalette::HighlightedText, QColor(37, 99, 235)},
-        {QPalette::ToolTipBase, white},
-        {QPalette::ToolTipText, ink},
+        { QPalette::Window, white },
+        { QPalette::WindowText, ink },
+        { QPalette::Base, white },
+        { QPalette::AlternateBase, QColor(245, 245, 250) },
+        { QPalette::Text, ink },
+        { QPalette::Button, white },
+        { QPalette::ButtonText, ink },
+        { QPalette::Highlight, QColor(219, 234, 254) },
+        { QPalette::HighlightedText, QColor(37, 99, 235) },
+        { QPalette::ToolTipBase, white },
+        { QPalette::ToolTipText, ink },
     };
     QPalette palette;
     for (const auto& entry : roles)

@@ -15,7 +15,7 @@ namespace platform {
 
 namespace {
 
-std::atomic<Platform*> g_override{nullptr};
+std::atomic<Platform*> g_override { nullptr };
 
 Platform& defaultPlatform()
 {

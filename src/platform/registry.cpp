@@ -13,8 +13,8 @@ std::wstring decodeRegistryString(const std::uint8_t* data, std::size_t bytes)
         if (unit == 0)
             break; // the stored terminator, or the first of several
         if (sizeof(wchar_t) == 4 && unit >= 0xD800 && unit <= 0xDBFF && i + 3 < bytes) {
-            const std::uint32_t low =
-                static_cast<std::uint32_t>(data[i + 2]) | (static_cast<std::uint32_t>(data[i + 3]) << 8);
+            const std::uint32_t low
+                = static_cast<std::uint32_t>(data[i + 2]) | (static_cast<std::uint32_t>(data[i + 3]) << 8);
             if (low >= 0xDC00 && low <= 0xDFFF) {
                 unit = 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
                 i += 2;
@@ -48,8 +48,8 @@ std::vector<std::uint8_t> encodeRegistryString(const std::wstring& text, bool te
     return out;
 }
 
-std::optional<std::wstring> Registry::readString(Hive hive, const std::wstring& path, const std::wstring& name,
-                                                 std::size_t maxDataBytes) const
+std::optional<std::wstring> Registry::readString(
+    Hive hive, const std::wstring& path, const std::wstring& name, std::size_t maxDataBytes) const
 {
     RawValue v;
     if (queryValue(hive, path, name, maxDataBytes, v) != Status::Ok)
@@ -81,9 +81,8 @@ std::optional<std::uint64_t> Registry::readQword(Hive hive, const std::wstring& 
     return out;
 }
 
-std::optional<std::vector<std::uint8_t>> Registry::readBinary(Hive hive, const std::wstring& path,
-                                                              const std::wstring& name,
-                                                              std::size_t maxDataBytes) const
+std::optional<std::vector<std::uint8_t>> Registry::readBinary(
+    Hive hive, const std::wstring& path, const std::wstring& name, std::size_t maxDataBytes) const
 {
     RawValue v;
     if (queryValue(hive, path, name, maxDataBytes, v) != Status::Ok)
@@ -91,10 +90,10 @@ std::optional<std::vector<std::uint8_t>> Registry::readBinary(Hive hive, const s
     return v.data;
 }
 
-Status Registry::setString(Hive hive, const std::wstring& path, const std::wstring& name, const std::wstring& text,
-                           std::uint32_t type)
+Status Registry::setString(
+    Hive hive, const std::wstring& path, const std::wstring& name, const std::wstring& text, std::uint32_t type)
 {
-    return setValue(hive, path, RawValue{name, type, encodeRegistryString(text)});
+    return setValue(hive, path, RawValue { name, type, encodeRegistryString(text) });
 }
 
 Status Registry::setDword(Hive hive, const std::wstring& path, const std::wstring& name, std::uint32_t v)
@@ -102,7 +101,7 @@ Status Registry::setDword(Hive hive, const std::wstring& path, const std::wstrin
     std::vector<std::uint8_t> bytes(4);
     for (std::size_t i = 0; i < 4; ++i)
         bytes[i] = static_cast<std::uint8_t>((v >> (8 * i)) & 0xFF);
-    return setValue(hive, path, RawValue{name, TypeDword, bytes});
+    return setValue(hive, path, RawValue { name, TypeDword, bytes });
 }
 
 Status Registry::setQword(Hive hive, const std::wstring& path, const std::wstring& name, std::uint64_t v)
@@ -110,13 +109,13 @@ Status Registry::setQword(Hive hive, const std::wstring& path, const std::wstrin
     std::vector<std::uint8_t> bytes(8);
     for (std::size_t i = 0; i < 8; ++i)
         bytes[i] = static_cast<std::uint8_t>((v >> (8 * i)) & 0xFF);
-    return setValue(hive, path, RawValue{name, TypeQword, bytes});
+    return setValue(hive, path, RawValue { name, TypeQword, bytes });
 }
 
-Status Registry::setBinary(Hive hive, const std::wstring& path, const std::wstring& name,
-                           const std::vector<std::uint8_t>& bytes)
+Status Registry::setBinary(
+    Hive hive, const std::wstring& path, const std::wstring& name, const std::vector<std::uint8_t>& bytes)
 {
-    return setValue(hive, path, RawValue{name, TypeBinary, bytes});
+    return setValue(hive, path, RawValue { name, TypeBinary, bytes });
 }
 
 } // namespace platform

@@ -24,7 +24,10 @@ enum ValueType : std::uint32_t {
 // Outcome of a registry call, folded from the Win32 error codes the features tell apart.
 enum class Status { Ok, NotFound, MoreData, AccessDenied, Failed };
 
-inline bool isNotFound(Status s) { return s == Status::NotFound; }
+inline bool isNotFound(Status s)
+{
+    return s == Status::NotFound;
+}
 
 struct RawValue {
     std::wstring name;
@@ -48,19 +51,18 @@ public:
     virtual bool keyExists(Hive hive, const std::wstring& path) const = 0;
 
     // Subkey names by index until the first failing index; nullopt when the key does not open.
-    virtual std::optional<std::vector<std::wstring>> subKeys(Hive hive, const std::wstring& path,
-                                                             std::size_t maxNameChars = 256) const = 0;
+    virtual std::optional<std::vector<std::wstring>> subKeys(
+        Hive hive, const std::wstring& path, std::size_t maxNameChars = 256) const = 0;
     virtual std::optional<std::uint32_t> subKeyCount(Hive hive, const std::wstring& path) const = 0;
 
     // Every index until there are no more items, failed ones included (MoreData for a name or
     // data that does not fit), so that each caller keeps its own stop-or-skip rule.
-    virtual std::optional<std::vector<EnumeratedValue>> enumValues(Hive hive, const std::wstring& path,
-                                                                   std::size_t maxNameChars,
-                                                                   std::size_t maxDataBytes) const = 0;
+    virtual std::optional<std::vector<EnumeratedValue>> enumValues(
+        Hive hive, const std::wstring& path, std::size_t maxNameChars, std::size_t maxDataBytes) const = 0;
 
     // An empty name is the key's default value.
-    virtual Status queryValue(Hive hive, const std::wstring& path, const std::wstring& name,
-                              std::size_t maxDataBytes, RawValue& out) const = 0;
+    virtual Status queryValue(Hive hive, const std::wstring& path, const std::wstring& name, std::size_t maxDataBytes,
+        RawValue& out) const = 0;
 
     virtual Status createKey(Hive hive, const std::wstring& path) = 0;
     // Creates the key when needed.
@@ -72,21 +74,20 @@ public:
     // Typed reads over queryValue.
     // A string read: REG_SZ or REG_EXPAND_SZ, ended at the first zero or at the data's end when
     // the terminator is missing. Data longer than maxDataBytes fails.
-    std::optional<std::wstring> readString(Hive hive, const std::wstring& path, const std::wstring& name,
-                                           std::size_t maxDataBytes = 2048) const;
+    std::optional<std::wstring> readString(
+        Hive hive, const std::wstring& path, const std::wstring& name, std::size_t maxDataBytes = 2048) const;
     std::optional<std::uint32_t> readDword(Hive hive, const std::wstring& path, const std::wstring& name) const;
     std::optional<std::uint64_t> readQword(Hive hive, const std::wstring& path, const std::wstring& name) const;
-    std::optional<std::vector<std::uint8_t>> readBinary(Hive hive, const std::wstring& path,
-                                                        const std::wstring& name,
-                                                        std::size_t maxDataBytes) const;
+    std::optional<std::vector<std::uint8_t>> readBinary(
+        Hive hive, const std::wstring& path, const std::wstring& name, std::size_t maxDataBytes) const;
 
     // Writers used by tests and demo data.
     Status setString(Hive hive, const std::wstring& path, const std::wstring& name, const std::wstring& text,
-                     std::uint32_t type = TypeString);
+        std::uint32_t type = TypeString);
     Status setDword(Hive hive, const std::wstring& path, const std::wstring& name, std::uint32_t v);
     Status setQword(Hive hive, const std::wstring& path, const std::wstring& name, std::uint64_t v);
-    Status setBinary(Hive hive, const std::wstring& path, const std::wstring& name,
-                     const std::vector<std::uint8_t>& bytes);
+    Status setBinary(
+        Hive hive, const std::wstring& path, const std::wstring& name, const std::vector<std::uint8_t>& bytes);
 };
 
 // UTF-16LE registry bytes <-> wide strings (wchar_t is 32 bits off Windows).

@@ -32,14 +32,14 @@ const char AboutStyle[] = "QMessageBox { background: white; }QPushButton { backg
                           "background:#1e40af; }";
 
 // Fixed and untranslated on purpose: product name, version and maker read the same everywhere.
-const char AboutText[] =
-    "<h3 style='margin-bottom:6px;'>Norvale</h3>"
-    "<p style='color:#64748b; font-size:12px; margin-top:0;'>Version 7.0 &nbsp;&middot;&nbsp; Brightfen</p>"
-    "<p style='font-size:13px; line-height:1.6;'>Norvale is a lightweight Windows system optimizer designed to help "
-    "you clean up junk files, uninstall unwanted software, manage UWP apps, and remove browser extensions — keeping "
-    "your PC fast and clutter-free.</p>"
-    "<p style='color:#94a3b8; font-size:11px;'>© 2026 Brightfen. All rights reserved.<br>"
-    "<a style='color:#2563eb;' href='https://www.brightfen.com'>www.brightfen.com</a></p>";
+const char AboutText[]
+    = "<h3 style='margin-bottom:6px;'>Norvale</h3>"
+      "<p style='color:#64748b; font-size:12px; margin-top:0;'>Version 7.0 &nbsp;&middot;&nbsp; Brightfen</p>"
+      "<p style='font-size:13px; line-height:1.6;'>Norvale is a lightweight Windows system optimizer designed to help "
+      "you clean up junk files, uninstall unwanted software, manage UWP apps, and remove browser extensions — keeping "
+      "your PC fast and clutter-free.</p>"
+      "<p style='color:#94a3b8; font-size:11px;'>© 2026 Brightfen. All rights reserved.<br>"
+      "<a style='color:#2563eb;' href='https://www.brightfen.com'>www.brightfen.com</a></p>";
 
 } // namespace
 
@@ -110,14 +110,14 @@ MainWindow::MainWindow(QWidget* parent)
 QString MainWindow::languageDisplayName(const QString& code)
 {
     static const QHash<QString, QString> names = {
-        {QStringLiteral("zh_CN"), QStringLiteral("Simplified Chinese")},
-        {QStringLiteral("zh_TW"), QStringLiteral("Traditional Chinese")},
-        {QStringLiteral("en"), QStringLiteral("English")},
-        {QStringLiteral("ja"), QStringLiteral("日本語")},
-        {QStringLiteral("ko"), QStringLiteral("한국어")},
-        {QStringLiteral("fr"), QStringLiteral("Français")},
-        {QStringLiteral("de"), QStringLiteral("Deutsch")},
-        {QStringLiteral("es"), QStringLiteral("Español")},
+        { QStringLiteral("zh_CN"), QStringLiteral("Simplified Chinese") },
+        { QStringLiteral("zh_TW"), QStringLiteral("Traditional Chinese") },
+        { QStringLiteral("en"), QStringLiteral("English") },
+        { QStringLiteral("ja"), QStringLiteral("日本語") },
+        { QStringLiteral("ko"), QStringLiteral("한국어") },
+        { QStringLiteral("fr"), QStringLiteral("Français") },
+        { QStringLiteral("de"), QStringLiteral("Deutsch") },
+        { QStringLiteral("es"), QStringLiteral("Español") },
     };
     return names.value(code, code);
 }
@@ -211,26 +211,27 @@ void MainWindow::onAbout()
 
 void MainWindow::onHelp()
 {
-    QDesktopServices::openUrl(QUrl(LinkManager::instance()->getLink(QStringLiteral("support"), QStringLiteral("help"))));
+    QDesktopServices::openUrl(
+        QUrl(LinkManager::instance()->getLink(QStringLiteral("support"), QStringLiteral("help"))));
 }
 
 void MainWindow::onSupport()
 {
-    QDesktopServices::openUrl(QUrl(LinkManager::instance()->getLink(QStringLiteral("menu"), QStringLiteral("support"))));
+    QDesktopServices::openUrl(
+        QUrl(LinkManager::instance()->getLink(QStringLiteral("menu"), QStringLiteral("support"))));
 }
 
 void MainWindow::onLanguageChanged(const QString& languageCode)
 {
     QMessageBox::information(this, tr("Language Changed"),
-                             tr("Language changed to: %1\nThe application will restart now.")
-                                 .arg(languageDisplayName(languageCode)),
-                             QMessageBox::Ok);
+        tr("Language changed to: %1\nThe application will restart now.").arg(languageDisplayName(languageCode)),
+        QMessageBox::Ok);
 
     const QStringList arguments = QApplication::arguments().mid(1);
     if (QProcess::startDetached(QApplication::applicationFilePath(), arguments, QString())) {
         QApplication::quit();
     } else {
-        QMessageBox::warning(this, tr("Restart Failed"), tr("Please restart the application manually."),
-                             QMessageBox::Ok);
+        QMessageBox::warning(
+            this, tr("Restart Failed"), tr("Please restart the application manually."), QMessageBox::Ok);
     }
 }

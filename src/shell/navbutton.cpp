@@ -57,8 +57,7 @@ NavButton::NavButton(const QString& icon, const QString& text, const QString& ba
 
     auto* textLabel = new QLabel(text, this);
     textLabel->setObjectName(QStringLiteral("NavLabel"));
-    textLabel->setStyleSheet(
-        QStringLiteral("background: transparent; color: rgba(255,255,255,0.70); font-size:13px;"));
+    textLabel->setStyleSheet(QStringLiteral("background: transparent; color: rgba(255,255,255,0.70); font-size:13px;"));
     layout->addWidget(textLabel, 1);
 
     if (!badge.isEmpty()) {
@@ -76,9 +75,9 @@ void NavButton::setActive(bool active)
         return;
     m_active = active;
     setProperty("active", active);
-    const QString labelStyle =
-        active ? QStringLiteral("background:transparent; color:#ffffff; font-size:13px; font-weight:600;")
-               : QStringLiteral("background:transparent; color:rgba(255,255,255,0.65); font-size:13px;");
+    const QString labelStyle = active
+        ? QStringLiteral("background:transparent; color:#ffffff; font-size:13px; font-weight:600;")
+        : QStringLiteral("background:transparent; color:rgba(255,255,255,0.65); font-size:13px;");
     const auto labels = findChildren<QLabel*>(QStringLiteral("NavLabel"));
     for (QLabel* label : labels)
         label->setStyleSheet(labelStyle);

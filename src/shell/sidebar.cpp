@@ -93,11 +93,11 @@ QWidget* Sidebar::createNavigation()
         const char* icon;
         QString text;
     } entries[] = {
-        {":/icons/icons/home.svg", tr("系统概览")},
-        {":/icons/icons/cleanup.svg", tr("磁盘清理")},
-        {":/icons/icons/uninstall.svg", tr("软件卸载")},
-        {":/icons/icons/winapps.svg", tr("Windows App")},
-        {":/icons/icons/extensions.svg", tr("浏览器扩展")},
+        { ":/icons/icons/home.svg", tr("系统概览") },
+        { ":/icons/icons/cleanup.svg", tr("磁盘清理") },
+        { ":/icons/icons/uninstall.svg", tr("软件卸载") },
+        { ":/icons/icons/winapps.svg", tr("Windows App") },
+        { ":/icons/icons/extensions.svg", tr("浏览器扩展") },
     };
     for (const auto& entry : entries) {
         const int index = m_buttons.size();

@@ -30,19 +30,19 @@ struct LanguageEntry {
 
 // The labels name each language in its own script and are never translated.
 const LanguageEntry Languages[] = {
-    {"zh_CN", "🇨🇳  Simplified Chinese"},
-    {"zh_TW", "🇹🇼  Traditional Chinese"},
-    {"en", "🇺🇸  English"},
-    {"ja", "🇯🇵  日本語"},
-    {"ko", "🇰🇷  한국어"},
-    {"fr", "🇫🇷  Français"},
-    {"de", "🇩🇪  Deutsch"},
-    {"es", "🇪🇸  Español"},
-    {"pt", "🇵🇹  Português"},
-    {"it", "🇮🇹  Italiano"},
-    {"nl", "🇳🇱  Nederlands"},
-    {"ar", "🇸🇦  عربية"},
-    {"tr", "🇹🇷  Türkçe"},
+    { "zh_CN", "🇨🇳  Simplified Chinese" },
+    { "zh_TW", "🇹🇼  Traditional Chinese" },
+    { "en", "🇺🇸  English" },
+    { "ja", "🇯🇵  日本語" },
+    { "ko", "🇰🇷  한국어" },
+    { "fr", "🇫🇷  Français" },
+    { "de", "🇩🇪  Deutsch" },
+    { "es", "🇪🇸  Español" },
+    { "pt", "🇵🇹  Português" },
+    { "it", "🇮🇹  Italiano" },
+    { "nl", "🇳🇱  Nederlands" },
+    { "ar", "🇸🇦  عربية" },
+    { "tr", "🇹🇷  Türkçe" },
 };
 
 QWidget* topLevel(QWidget* w)
@@ -80,7 +80,7 @@ TitleBar::TitleBar(QWidget* parent)
     m_minButton->setObjectName(QStringLiteral("MinimizeButton"));
     m_maxButton->setObjectName(QStringLiteral("MaximizeButton"));
     m_closeButton->setObjectName(QStringLiteral("CloseButton"));
-    for (WinButton* b : {m_menuButton, m_minButton, m_maxButton, m_closeButton})
+    for (WinButton* b : { m_menuButton, m_minButton, m_maxButton, m_closeButton })
         layout->addWidget(b);
 
     m_menuButton->setToolTip(tr("菜单"));
@@ -118,7 +118,7 @@ void TitleBar::buildMenu()
         m_languageGroup->addAction(action);
     }
     connect(m_languageGroup, &QActionGroup::triggered, this,
-            [this](QAction* action) { onLanguageTriggered(action->data().toString()); });
+        [this](QAction* action) { onLanguageTriggered(action->data().toString()); });
     m_menu->addSeparator();
 
     QAction* help = m_menu->addAction(tr("❓  Help"));

@@ -47,15 +47,15 @@ void WinButton::paintEvent(QPaintEvent*)
     if (m_hovered)
         p.fillRect(rect(), m_kind == Close ? QColor(QStringLiteral("#E81123")) : HoverWash);
 
-    p.setPen(QPen(closeHover ? QColor(Qt::white) : QColor(QStringLiteral("#64748b")), 1.1, Qt::SolidLine,
-                  Qt::SquareCap, Qt::BevelJoin));
+    p.setPen(QPen(closeHover ? QColor(Qt::white) : QColor(QStringLiteral("#64748b")), 1.1, Qt::SolidLine, Qt::SquareCap,
+        Qt::BevelJoin));
     p.setBrush(Qt::NoBrush);
 
     const int cx = width() / 2;
     const int cy = height() / 2;
     switch (m_kind) {
     case Menu:
-        for (int y : {cy - 4, cy, cy + 4})
+        for (int y : { cy - 4, cy, cy + 4 })
             p.drawLine(cx - 6, y, cx + 6, y);
         break;
     case Minimize:

@@ -44,16 +44,36 @@ private slots:
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("code");
         QTest::addColumn<bool>("asksSystem");
-        QTest::newRow("Hong Kong gets Traditional Chinese") << "" << "zh_HK" << "zh_TW" << true;
-        QTest::newRow("Taiwan gets Traditional Chinese") << "" << "zh_TW" << "zh_TW" << true;
-        QTest::newRow("Singapore gets Simplified Chinese") << "" << "zh_SG" << "zh_CN" << true;
-        QTest::newRow("Macau gets Simplified Chinese") << "" << "zh_MO" << "zh_CN" << true;
-        QTest::newRow("Brazil gets the Portuguese catalogue") << "" << "pt_BR" << "pt" << true;
-        QTest::newRow("Russian has no catalogue: English") << "" << "ru_RU" << "en" << true;
-        QTest::newRow("C locale: English") << "" << "C" << "en" << true;
-        QTest::newRow("Arabic by prefix") << "" << "ar_EG" << "ar" << true;
-        QTest::newRow("stored French beats a German system") << "fr" << "de_DE" << "fr" << false;
-        QTest::newRow("stored code without catalogue taken as it is") << "xx" << "de_DE" << "xx" << false;
+        QTest::newRow("Hong Kong gets Traditional Chinese") << ""
+                                                            << "zh_HK"
+                                                            << "zh_TW" << true;
+        QTest::newRow("Taiwan gets Traditional Chinese") << ""
+                                                         << "zh_TW"
+                                                         << "zh_TW" << true;
+        QTest::newRow("Singapore gets Simplified Chinese") << ""
+                                                           << "zh_SG"
+                                                           << "zh_CN" << true;
+        QTest::newRow("Macau gets Simplified Chinese") << ""
+                                                       << "zh_MO"
+                                                       << "zh_CN" << true;
+        QTest::newRow("Brazil gets the Portuguese catalogue") << ""
+                                                              << "pt_BR"
+                                                              << "pt" << true;
+        QTest::newRow("Russian has no catalogue: English") << ""
+                                                           << "ru_RU"
+                                                           << "en" << true;
+        QTest::newRow("C locale: English") << ""
+                                           << "C"
+                                           << "en" << true;
+        QTest::newRow("Arabic by prefix") << ""
+                                          << "ar_EG"
+                                          << "ar" << true;
+        QTest::newRow("stored French beats a German system") << "fr"
+                                                             << "de_DE"
+                                                             << "fr" << false;
+        QTest::newRow("stored code without catalogue taken as it is") << "xx"
+                                                                      << "de_DE"
+                                                                      << "xx" << false;
     }
 
     void chooseTranslationCode()
@@ -101,7 +121,7 @@ private slots:
         Startup::applyStyleAndPalette();
         Startup::applyFont();
         const QPalette palette = QApplication::palette();
-        for (auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (auto group : { QPalette::Active, QPalette::Inactive, QPalette::Disabled }) {
             QCOMPARE(palette.color(group, QPalette::Highlight), QColor(219, 234, 254));
             QCOMPARE(palette.color(group, QPalette::HighlightedText), QColor(37, 99, 235));
             QCOMPARE(palette.color(group, QPalette::AlternateBase), QColor(245, 245, 250));

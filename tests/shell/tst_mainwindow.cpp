@@ -12,8 +12,8 @@
 
 namespace {
 
-void sendMouse(QWidget* target, QEvent::Type type, const QPoint& local, Qt::MouseButton button,
-               Qt::MouseButtons buttons)
+void sendMouse(
+    QWidget* target, QEvent::Type type, const QPoint& local, Qt::MouseButton button, Qt::MouseButtons buttons)
 {
     QMouseEvent event(type, QPointF(local), target->mapToGlobal(QPointF(local)), button, buttons, Qt::NoModifier);
     QApplication::sendEvent(target, &event);
@@ -30,7 +30,7 @@ private slots:
         MainWindow window;
         QCOMPARE(window.pageStack()->count(), 5);
         QCOMPARE(window.pageStack()->currentIndex(), 0);
-        const char* classes[] = {"DashboardPage", "CleanupPage", "UninstallPage", "WinAppsPage", "BrowserExtPage"};
+        const char* classes[] = { "DashboardPage", "CleanupPage", "UninstallPage", "WinAppsPage", "BrowserExtPage" };
         for (int i = 0; i < 5; ++i)
             QCOMPARE(window.pageStack()->widget(i)->metaObject()->className(), classes[i]);
         QVERIFY(window.windowFlags() & Qt::FramelessWindowHint);
@@ -49,10 +49,10 @@ private slots:
     {
         QTest::addColumn<QList<int>>("visits");
         QTest::addColumn<QList<int>>("starts");
-        QTest::newRow("uninstall, away and back") << QList<int>{2, 0, 2} << QList<int>{2};
-        QTest::newRow("every page twice") << QList<int>{0, 1, 2, 3, 4, 4, 3, 2, 1, 0} << QList<int>{2, 3, 4};
-        QTest::newRow("dashboard and cleanup start nothing") << QList<int>{0, 1, 0, 1} << QList<int>{};
-        QTest::newRow("same page repeatedly") << QList<int>{4, 4, 4} << QList<int>{4};
+        QTest::newRow("uninstall, away and back") << QList<int> { 2, 0, 2 } << QList<int> { 2 };
+        QTest::newRow("every page twice") << QList<int> { 0, 1, 2, 3, 4, 4, 3, 2, 1, 0 } << QList<int> { 2, 3, 4 };
+        QTest::newRow("dashboard and cleanup start nothing") << QList<int> { 0, 1, 0, 1 } << QList<int> {};
+        QTest::newRow("same page repeatedly") << QList<int> { 4, 4, 4 } << QList<int> { 4 };
     }
 
     void firstVisitsStartOnce()
@@ -135,10 +135,13 @@ private slots:
     {
         QTest::addColumn<QString>("code");
         QTest::addColumn<QString>("name");
-        QTest::newRow("Simplified Chinese") << "zh_CN" << "Simplified Chinese";
+        QTest::newRow("Simplified Chinese") << "zh_CN"
+                                            << "Simplified Chinese";
         QTest::newRow("Japanese in its own script") << "ja" << QStringLiteral("日本語");
-        QTest::newRow("Portuguese shows the code") << "pt" << "pt";
-        QTest::newRow("Arabic shows the code") << "ar" << "ar";
+        QTest::newRow("Portuguese shows the code") << "pt"
+                                                   << "pt";
+        QTest::newRow("Arabic shows the code") << "ar"
+                                               << "ar";
         QTest::newRow("Spanish") << "es" << QStringLiteral("Español");
     }
 

@@ -16,8 +16,9 @@ private slots:
         QStringList texts;
         for (NavButton* b : bar.buttons())
             texts << b->findChild<QLabel*>(QStringLiteral("NavLabel"))->text();
-        QCOMPARE(texts, QStringList({QStringLiteral("系统概览"), QStringLiteral("磁盘清理"), QStringLiteral("软件卸载"),
-                                     QStringLiteral("Windows App"), QStringLiteral("浏览器扩展")}));
+        QCOMPARE(texts,
+            QStringList({ QStringLiteral("系统概览"), QStringLiteral("磁盘清理"), QStringLiteral("软件卸载"),
+                QStringLiteral("Windows App"), QStringLiteral("浏览器扩展") }));
         QCOMPARE(bar.activeIndex(), 0);
         QVERIFY(bar.buttons().at(0)->isActive());
         QCOMPARE(bar.buttons().at(0)->property("active").toBool(), true);
@@ -84,11 +85,11 @@ private slots:
         // Bottom right, away from the top glow and the labels: the gradient's last stop.
         const QColor bottom(image.pixel(220, 698));
         QVERIFY2(qAbs(bottom.red() - 14) <= 3 && qAbs(bottom.green() - 114) <= 3 && qAbs(bottom.blue() - 164) <= 3,
-                 qPrintable(bottom.name()));
+            qPrintable(bottom.name()));
         // Top right, outside the 160 px glow: the first stop.
         const QColor top(image.pixel(222, 1));
         QVERIFY2(qAbs(top.red() - 15) <= 3 && qAbs(top.green() - 45) <= 3 && qAbs(top.blue() - 107) <= 3,
-                 qPrintable(top.name()));
+            qPrintable(top.name()));
     }
 };
 

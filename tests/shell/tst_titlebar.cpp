@@ -36,8 +36,8 @@ QImage paint(QWidget& w)
     return image;
 }
 
-void sendMouse(QWidget* target, QEvent::Type type, const QPoint& local, Qt::MouseButton button,
-               Qt::MouseButtons buttons)
+void sendMouse(
+    QWidget* target, QEvent::Type type, const QPoint& local, Qt::MouseButton button, Qt::MouseButtons buttons)
 {
     const QPointF global = target->mapToGlobal(QPointF(local));
     QMouseEvent event(type, QPointF(local), global, button, buttons, Qt::NoModifier);
@@ -60,8 +60,8 @@ private slots:
         for (QAction* a : actions)
             texts << (a->isSeparator() ? QStringLiteral("|") : a->text());
         // The first entry keeps its misspelt source text: the catalogues key on it.
-        const QStringList expected = {QStringLiteral("ℹ️  Qbout Norvale"), "|", QStringLiteral("🌐  Language"), "|",
-                                      QStringLiteral("❓  Help"), QStringLiteral("💬  Support"), "|", "Quit"};
+        const QStringList expected = { QStringLiteral("ℹ️  Qbout Norvale"), "|", QStringLiteral("🌐  Language"), "|",
+            QStringLiteral("❓  Help"), QStringLiteral("💬  Support"), "|", "Quit" };
         QCOMPARE(texts, expected);
     }
 
@@ -74,7 +74,8 @@ private slots:
             QVERIFY(a->isCheckable());
             codes << a->data().toString();
         }
-        QCOMPARE(codes, QStringList({"zh_CN", "zh_TW", "en", "ja", "ko", "fr", "de", "es", "pt", "it", "nl", "ar", "tr"}));
+        QCOMPARE(
+            codes, QStringList({ "zh_CN", "zh_TW", "en", "ja", "ko", "fr", "de", "es", "pt", "it", "nl", "ar", "tr" }));
         QVERIFY(bar.languageGroup()->isExclusive());
         QCOMPARE(languageAction(bar, "ar")->text(), QStringLiteral("🇸🇦  عربية"));
     }
@@ -84,8 +85,10 @@ private slots:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("checked");
         QTest::newRow("nothing stored marks Simplified Chinese") << QString() << "zh_CN";
-        QTest::newRow("stored German") << "de" << "de";
-        QTest::newRow("stored Turkish") << "tr" << "tr";
+        QTest::newRow("stored German") << "de"
+                                       << "de";
+        QTest::newRow("stored Turkish") << "tr"
+                                        << "tr";
     }
 
     void checkedLanguage()
@@ -218,8 +221,8 @@ private slots:
         const QImage hovered = paint(button);
         const QColor corner(hovered.pixel(2, 2));
         QVERIFY2(qAbs(corner.red() - wash.red()) <= 2 && qAbs(corner.green() - wash.green()) <= 2
-                     && qAbs(corner.blue() - wash.blue()) <= 2,
-                 qPrintable(corner.name()));
+                && qAbs(corner.blue() - wash.blue()) <= 2,
+            qPrintable(corner.name()));
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(&button, &leave);
         QVERIFY(!button.isHovered());

@@ -53,13 +53,37 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
 
 SandboxPlatform::~SandboxPlatform() = default;
 
-Registry& SandboxPlatform::registry() { return *m_registry; }
-Environment& SandboxPlatform::environment() { return *m_environment; }
-WindowFrame& SandboxPlatform::windowFrame() { return *m_frame; }
-SystemCounters& SandboxPlatform::counters() { return *m_counters; }
-FileSystem& SandboxPlatform::fileSystem() { return *m_fileSystem; }
-Launcher& SandboxPlatform::launcher() { return *m_launcher; }
-IconExtractor& SandboxPlatform::icons() { return *m_icons; }
-std::wstring SandboxPlatform::sandboxRoot() const { return m_root; }
+Registry& SandboxPlatform::registry()
+{
+    return *m_registry;
+}
+Environment& SandboxPlatform::environment()
+{
+    return *m_environment;
+}
+WindowFrame& SandboxPlatform::windowFrame()
+{
+    return *m_frame;
+}
+SystemCounters& SandboxPlatform::counters()
+{
+    return *m_counters;
+}
+FileSystem& SandboxPlatform::fileSystem()
+{
+    return *m_fileSystem;
+}
+Launcher& SandboxPlatform::launcher()
+{
+    return *m_launcher;
+}
+IconExtractor& SandboxPlatform::icons()
+{
+    return *m_icons;
+}
+std::wstring SandboxPlatform::sandboxRoot() const
+{
+    return m_root;
+}
 
 } // namespace platform

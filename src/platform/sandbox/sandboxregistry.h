@@ -15,14 +15,13 @@ public:
     explicit SandboxRegistry(std::string regFilePath = std::string());
 
     bool keyExists(Hive hive, const std::wstring& path) const override;
-    std::optional<std::vector<std::wstring>> subKeys(Hive hive, const std::wstring& path,
-                                                     std::size_t maxNameChars) const override;
+    std::optional<std::vector<std::wstring>> subKeys(
+        Hive hive, const std::wstring& path, std::size_t maxNameChars) const override;
     std::optional<std::uint32_t> subKeyCount(Hive hive, const std::wstring& path) const override;
-    std::optional<std::vector<EnumeratedValue>> enumValues(Hive hive, const std::wstring& path,
-                                                           std::size_t maxNameChars,
-                                                           std::size_t maxDataBytes) const override;
+    std::optional<std::vector<EnumeratedValue>> enumValues(
+        Hive hive, const std::wstring& path, std::size_t maxNameChars, std::size_t maxDataBytes) const override;
     Status queryValue(Hive hive, const std::wstring& path, const std::wstring& name, std::size_t maxDataBytes,
-                      RawValue& out) const override;
+        RawValue& out) const override;
     Status createKey(Hive hive, const std::wstring& path) override;
     Status setValue(Hive hive, const std::wstring& path, const RawValue& value) override;
     Status deleteTree(Hive hive, const std::wstring& path) override;

@@ -23,12 +23,33 @@ WinPlatform::WinPlatform()
 
 WinPlatform::~WinPlatform() = default;
 
-Registry& WinPlatform::registry() { return *m_registry; }
-Environment& WinPlatform::environment() { return *m_environment; }
-WindowFrame& WinPlatform::windowFrame() { return *m_frame; }
-SystemCounters& WinPlatform::counters() { return *m_counters; }
-FileSystem& WinPlatform::fileSystem() { return *m_fileSystem; }
-Launcher& WinPlatform::launcher() { return *m_launcher; }
-IconExtractor& WinPlatform::icons() { return *m_icons; }
+Registry& WinPlatform::registry()
+{
+    return *m_registry;
+}
+Environment& WinPlatform::environment()
+{
+    return *m_environment;
+}
+WindowFrame& WinPlatform::windowFrame()
+{
+    return *m_frame;
+}
+SystemCounters& WinPlatform::counters()
+{
+    return *m_counters;
+}
+FileSystem& WinPlatform::fileSystem()
+{
+    return *m_fileSystem;
+}
+Launcher& WinPlatform::launcher()
+{
+    return *m_launcher;
+}
+IconExtractor& WinPlatform::icons()
+{
+    return *m_icons;
+}
 
 } // namespace platform
