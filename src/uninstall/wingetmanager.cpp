@@ -52,10 +52,8 @@ void WinGetManager::handleOutputLine(const QByteArray& raw)
     const QRegularExpressionMatch match = percent.match(line);
     if (!match.hasMatch())
         return;
-    bool ok = false;
-    const int value = match.captured(1).toInt(&ok);
-    if (ok)
-        emit packageProgress(m_currentId, value);
+    // A number too long for an int reads as 0, which is still reported.
+    emit packageProgress(m_currentId, match.captured(1).toInt());
 }
 
 void WinGetManager::onProcessFinished(int code, QProcess::ExitStatus status)
