@@ -91,7 +91,8 @@ private:
 class tst_CleanupScanner : public QObject {
     Q_OBJECT
 private slots:
-    void tableOrderAndDefaults();
+    void table_data();
+    void table();
     void cacheDiscovery_data();
     void cacheDiscovery();
     void scanMeasuresEveryCategoryInOrder();
@@ -102,30 +103,90 @@ private slots:
     void undeletableFilesStayAndAreNotCounted();
 };
 
-void tst_CleanupScanner::tableOrderAndDefaults()
+// One row per category at its position. Paths are written as on Windows: "C:/..." for the system
+// drive, "L:" and "R:" for Local and Roaming AppData, "TEMP" for the user's temporary folder. No
+// browser is installed here, so the browser rows hold their fallbacks.
+void tst_CleanupScanner::table_data()
 {
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("icon");
+    QTest::addColumn<QStringList>("paths");
+    QTest::addColumn<bool>("selected");
+
+    QTest::newRow("win_temp") << int(WinTemp) << "win_temp"
+                              << "Windows 临时文件"
+                              << "🗂️" << QStringList({ "C:/Windows/Temp", "TEMP" }) << true;
+    QTest::newRow("wu_cache") << int(WuCache) << "wu_cache"
+                              << "Windows Update 缓存"
+                              << "🔄" << QStringList({ "C:/Windows/SoftwareDistribution/Download" }) << true;
+    QTest::newRow("chrome_cache") << int(ChromeCache) << "chrome_cache"
+                                  << "Google Chrome 缓存"
+                                  << "🟡" << QStringList({ "L:Google/Chrome/User Data/Default/Cache" }) << true;
+    QTest::newRow("edge_cache") << int(EdgeCache) << "edge_cache"
+                                << "Microsoft Edge 缓存"
+                                << "🔵" << QStringList({ "L:Microsoft/Edge/User Data/Default/Cache" }) << true;
+    QTest::newRow("firefox_cache") << int(FirefoxCache) << "firefox_cache"
+                                   << "Mozilla Firefox 缓存"
+                                   << "🦊" << QStringList({ "R:Mozilla/Firefox/Profiles" }) << true;
+    QTest::newRow("logs: a folder and a file")
+        << int(Logs) << "logs"
+        << "系统日志文件"
+        << "📋" << QStringList({ "C:/Windows/Logs", "C:/Windows/Temp/MRT.log" }) << true;
+    QTest::newRow("prefetch") << int(Prefetch) << "prefetch"
+                              << "Prefetch 预读缓存"
+                              << "⚡" << QStringList({ "C:/Windows/Prefetch" }) << true;
+    QTest::newRow("thumbcache") << int(Thumbcache) << "thumbcache"
+                                << "缩略图缓存"
+                                << "🖼️" << QStringList({ "L:Microsoft/Windows/Explorer" }) << true;
+    QTest::newRow("dumps: not selected") << int(Dumps) << "dumps"
+                                         << "崩溃转储文件"
+                                         << "💥"
+                                         << QStringList(
+                                                { "L:CrashDumps", "C:/ProgramData/Microsoft/Windows/WER/ReportArchive",
+                                                    "C:/ProgramData/Microsoft/Windows/WER/ReportQueue",
+                                                    "C:/Windows/Minidump" })
+                                         << false;
+    QTest::newRow("recycle: not selected") << int(Recycle) << "recycle"
+                                           << "回收站"
+                                           << "🗑️" << QStringList({ "C:/$Recycle.Bin" }) << false;
+    QTest::newRow("windows_old: listed though missing") << int(WindowsOld) << "windows_old"
+                                                        << "Windows 旧系统备份"
+                                                        << "💾" << QStringList({ "C:/Windows.old" }) << false;
+}
+
+void tst_CleanupScanner::table()
+{
+    QFETCH(int, position);
+    QFETCH(QString, id);
+    QFETCH(QString, name);
+    QFETCH(QString, icon);
+    QFETCH(QStringList, paths);
+    QFETCH(bool, selected);
+
     CleanupSandbox sandbox;
+    QStringList wanted;
+    for (const QString& path : paths) {
+        if (path == QLatin1String("TEMP"))
+            wanted << sandbox.local(QStringLiteral("Temp"));
+        else if (path.startsWith(QLatin1String("L:")))
+            wanted << sandbox.local(path.mid(2));
+        else if (path.startsWith(QLatin1String("R:")))
+            wanted << sandbox.roaming(path.mid(2));
+        else
+            wanted << sandbox.machine(path);
+    }
+
     CleanupScanner scanner;
-    QStringList ids;
-    QList<bool> selected;
-    for (const JunkCategory& c : scanner.categories()) {
-        ids << c.id;
-        selected << c.selected;
-        QCOMPARE(c.size, 0);
-    }
-    QCOMPARE(ids,
-        QStringList({ "win_temp", "wu_cache", "chrome_cache", "edge_cache", "firefox_cache", "logs", "prefetch",
-            "thumbcache", "dumps", "recycle", "windows_old" }));
-    QCOMPARE(selected, QList<bool>({ true, true, true, true, true, true, true, true, false, false, false }));
-    // Every machine location lives in the sandbox, never on the host.
-    const QString drive = sandbox.machine(QStringLiteral("C:/"));
-    for (const JunkCategory& c : scanner.categories()) {
-        for (const QString& path : c.paths)
-            QVERIFY2(path.startsWith(drive), qPrintable(path));
-    }
-    QCOMPARE(scanner.categories().at(Logs).paths,
-        QStringList({ sandbox.machine("C:/Windows/Logs"), sandbox.machine("C:/Windows/Temp/MRT.log") }));
-    QCOMPARE(scanner.categories().at(WindowsOld).paths, QStringList({ sandbox.machine("C:/Windows.old") }));
+    QCOMPARE(scanner.categories().size(), 11);
+    const JunkCategory& c = scanner.categories().at(position);
+    QCOMPARE(c.id, id);
+    QCOMPARE(c.name, name);
+    QCOMPARE(c.icon, icon);
+    QCOMPARE(c.paths, wanted);
+    QCOMPARE(c.selected, selected);
+    QCOMPARE(c.size, 0);
 }
 
 // Folders are created below Local or Roaming AppData ("L:" / "R:" prefixes). "{0}" and "{1}" in
