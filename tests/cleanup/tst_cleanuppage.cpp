@@ -3,11 +3,14 @@
 #include "cleanup/cleanupscanner.h"
 #include "cleanupsandbox.h"
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <atomic>
 
 namespace {
 
@@ -35,6 +38,8 @@ private slots:
     void selectAllToggles();
     void cleanWithNothingSelectedDoesNothing();
     void cleanEmptiesSelectedAndRescans();
+    void rescanShowsScanningUntilItEnds();
+    void scansWaitTheirDelays();
 };
 
 void tst_CleanupPage::headerTotal_data()
@@ -42,14 +47,19 @@ void tst_CleanupPage::headerTotal_data()
     QTest::addColumn<qint64>("bytes");
     QTest::addColumn<QString>("circle");
     QTest::addColumn<QString>("detail");
+    QTest::addColumn<QString>("selectedSum"); // half of the bytes sit in a selected category
     QTest::newRow("nothing found") << qint64(0) << "0M"
-                                   << "发现 11 类可清理文件，共 0 KB";
+                                   << "发现 11 类可清理文件，共 0 KB"
+                                   << "0 KB";
     QTest::newRow("one byte under 1 GiB stays in M") << GiB - 1 << "1024M"
-                                                     << "发现 11 类可清理文件，共 1024 MB";
+                                                     << "发现 11 类可清理文件，共 1024 MB"
+                                                     << "512 MB";
     QTest::newRow("exactly 1 GiB switches to G") << GiB << "1.0G"
-                                                 << "发现 11 类可清理文件，共 1.0 GB";
+                                                 << "发现 11 类可清理文件，共 1.0 GB"
+                                                 << "512 MB";
     QTest::newRow("300 MiB") << 300 * MiB << "300M"
-                             << "发现 11 类可清理文件，共 300 MB";
+                             << "发现 11 类可清理文件，共 300 MB"
+                             << "150 MB";
 }
 
 void tst_CleanupPage::headerTotal()
@@ -57,6 +67,7 @@ void tst_CleanupPage::headerTotal()
     QFETCH(qint64, bytes);
     QFETCH(QString, circle);
     QFETCH(QString, detail);
+    QFETCH(QString, selectedSum);
 
     CleanupSandbox sandbox;
     if (bytes > 0) {
@@ -73,6 +84,11 @@ void tst_CleanupPage::headerTotal()
     QTRY_COMPARE(total->text(), circle);
     QCOMPARE(child<QLabel>(page, "CleanupStatusDetail")->text(), detail);
     QCOMPARE(child<QLabel>(page, "CleanupStatusTitle")->text(), QStringLiteral("扫描完成"));
+    // Eight categories start selected; only what they hold is expected to be released.
+    QCOMPARE(child<QLabel>(page, "CleanupSummaryLine")->text(),
+        QStringLiteral("已选 8 类  ·  预计释放 %1").arg(selectedSum));
+    QCOMPARE(child<QLabel>(page, "CleanupBottomSummary")->text(),
+        QStringLiteral("已选 <b>8</b> 类  ·  预计释放 <b>%1</b>").arg(selectedSum));
 }
 
 void tst_CleanupPage::selectAllToggles()
@@ -166,6 +182,73 @@ void tst_CleanupPage::cleanEmptiesSelectedAndRescans()
     QCOMPARE(rowsOf(page).at(6)->findChild<QLabel*>("CleanupRowSize")->text(), QStringLiteral("0 KB"));
     QVERIFY(QFileInfo::exists(sandbox.machine("C:/$Recycle.Bin/S-1/keep.txt")));
     QCOMPARE(child<QLabel>(page, "CleanupTotalLabel")->text(), QStringLiteral("0M"));
+}
+
+void tst_CleanupPage::rescanShowsScanningUntilItEnds()
+{
+    CleanupSandbox sandbox;
+    QVERIFY(CleanupSandbox::writeFile(sandbox.machine("C:/Windows/Prefetch/a.pf"), 2 * MiB));
+    CleanupPage page(nullptr);
+    QSignalSpy scanned(page.scanner(), &CleanupScanner::scanFinished);
+    QTRY_COMPARE_WITH_TIMEOUT(scanned.count(), 1, ScanWaitMs);
+    auto* rescan = child<QPushButton>(page, "CleanupRescanButton");
+    QTRY_VERIFY(rescan->isEnabled());
+    QVERIFY(QFile::remove(sandbox.machine("C:/Windows/Prefetch/a.pf")));
+    QVERIFY(CleanupSandbox::writeFile(sandbox.machine("C:/Windows/Logs/x.log"), 3 * MiB));
+
+    // Handled before the scan's signals can arrive, so the "scanning" state is observable.
+    QTest::mouseClick(rescan, Qt::LeftButton);
+    QCOMPARE(child<QLabel>(page, "CleanupStatusTitle")->text(), QStringLiteral("正在扫描…"));
+    QCOMPARE(child<QLabel>(page, "CleanupSummaryLine")->text(), QStringLiteral("正在扫描…"));
+    for (CleanupRowWidget* row : rowsOf(page))
+        QCOMPARE(row->findChild<QLabel*>("CleanupRowSize")->text(), QStringLiteral("0 KB"));
+    QVERIFY(!rescan->isEnabled());
+    QVERIFY(!child<QPushButton>(page, "CleanupCleanButton")->isEnabled());
+
+    QTRY_COMPARE_WITH_TIMEOUT(scanned.count(), 2, ScanWaitMs);
+    QTRY_COMPARE(child<QLabel>(page, "CleanupStatusTitle")->text(), QStringLiteral("扫描完成"));
+    QCOMPARE(rowsOf(page).at(5)->findChild<QLabel*>("CleanupRowSize")->text(), QStringLiteral("3 MB"));
+    QCOMPARE(rowsOf(page).at(6)->findChild<QLabel*>("CleanupRowSize")->text(), QStringLiteral("0 KB"));
+    QVERIFY(rescan->isEnabled());
+}
+
+// Single-shot timers never fire early, so only the lower bounds are checked: a scan that starts at
+// once would read the disk while the window is still coming up, or wipe the freed amount unread.
+void tst_CleanupPage::scansWaitTheirDelays()
+{
+    CleanupSandbox sandbox;
+    QVERIFY(CleanupSandbox::writeFile(sandbox.machine("C:/Windows/Prefetch/a.pf"), 100));
+    QElapsedTimer clock;
+    std::atomic<qint64> firstScanAt { -1 };
+    std::atomic<qint64> cleanedAt { -1 };
+    std::atomic<qint64> rescanAt { -1 };
+    clock.start();
+    CleanupPage page(nullptr);
+    // Direct connections: the times are taken on the worker thread as the signals are emitted.
+    connect(
+        page.scanner(), &CleanupScanner::scanProgress, page.scanner(),
+        [&] {
+            qint64 none = -1;
+            if (!firstScanAt.compare_exchange_strong(none, clock.elapsed()) && cleanedAt >= 0) {
+                none = -1;
+                rescanAt.compare_exchange_strong(none, clock.elapsed());
+            }
+        },
+        Qt::DirectConnection);
+    connect(
+        page.scanner(), &CleanupScanner::cleanFinished, page.scanner(), [&] { cleanedAt = clock.elapsed(); },
+        Qt::DirectConnection);
+
+    QSignalSpy scanned(page.scanner(), &CleanupScanner::scanFinished);
+    QTRY_COMPARE_WITH_TIMEOUT(scanned.count(), 1, ScanWaitMs);
+    QVERIFY2(firstScanAt >= 200, qPrintable(QString::number(firstScanAt)));
+
+    auto* clean = child<QPushButton>(page, "CleanupCleanButton");
+    QTRY_VERIFY(clean->isEnabled());
+    QTest::mouseClick(clean, Qt::LeftButton);
+    QTRY_COMPARE_WITH_TIMEOUT(scanned.count(), 2, ScanWaitMs);
+    QVERIFY(cleanedAt >= 0 && rescanAt >= 0);
+    QVERIFY2(rescanAt - cleanedAt >= 500, qPrintable(QString::number(rescanAt - cleanedAt)));
 }
 
 QTEST_MAIN(tst_CleanupPage)
