@@ -43,7 +43,9 @@ std::wstring SystemFacts::readProcessorName(const Registry& registry)
 
 std::optional<WindowsVersion> SystemFacts::readWindowsVersion(const Registry& registry)
 {
-    if (!registry.keyExists(Hive::LocalMachine, VersionKey))
+    // keyExists also answers yes for a key this user may not read; only a key that opens for
+    // reading counts here, so a locked key leaves the edition and build unknown rather than blank.
+    if (!registry.subKeyCount(Hive::LocalMachine, VersionKey))
         return std::nullopt;
     auto text = [&registry](const wchar_t* name) {
         return registry.readString(Hive::LocalMachine, VersionKey, name, StringBufferBytes).value_or(std::wstring());
