@@ -84,8 +84,23 @@ void tst_DashboardPage::textsBeforeStaticInfo()
     QVERIFY(child<QLabel>(page, "DashboardBuildLabel")->text().isEmpty());
     QVERIFY(child<QLabel>(page, "DashboardUptimeLabel")->text().isEmpty());
     QCOMPARE(child<CircleBadge>(page, "DashboardUpdatesBadge")->text(), QString::fromUtf8("…"));
-    for (const char* name : { "DashboardCpuGauge", "DashboardMemoryGauge", "DashboardDiskGauge" })
-        QCOMPARE(child<RingGauge>(page, name)->value(), 0);
+    // Each gauge starts empty, under its own label and in its own colour (until the load rises).
+    const struct {
+        const char* name;
+        QString label;
+        QColor color;
+    } gauges[] = {
+        { "DashboardCpuGauge", QStringLiteral("CPU"), QColor(0x3b, 0x82, 0xf6) },
+        { "DashboardMemoryGauge", QString::fromUtf8("内存"), QColor(0x8b, 0x5c, 0xf6) },
+        { "DashboardDiskGauge", QString::fromUtf8("磁盘"), QColor(0x10, 0xb9, 0x81) },
+    };
+    for (const auto& g : gauges) {
+        const auto* gauge = child<RingGauge>(page, g.name);
+        QCOMPARE(gauge->value(), 0);
+        QCOMPARE(gauge->label(), g.label);
+        QCOMPARE(gauge->arcColor(), g.color);
+        QVERIFY(gauge->detail().isEmpty());
+    }
 }
 
 void tst_DashboardPage::textsAfterStaticInfo_data()

@@ -4,8 +4,10 @@
 #include "platform/registry.h"
 #include "sysinfo/systeminfoscanner.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using platform::Hive;
 
@@ -79,6 +81,7 @@ private slots:
     void installedUpdates_data();
     void installedUpdates();
     void firstSamplesFollowStaticInfo();
+    void ticksOnlyOnceMonitoringStarts();
 
 private:
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -357,6 +360,24 @@ void tst_SystemInfoScanner::firstSamplesFollowStaticInfo()
     c.times = platform::SystemTimes { 1000 + 90, 2000 + 100, 2000 + 0 };
     scanner.refresh();
     QCOMPARE(scanner.metrics().cpuPercent, 10);
+}
+
+void tst_SystemInfoScanner::ticksOnlyOnceMonitoringStarts()
+{
+    SystemInfoScanner scanner;
+    const auto timers = scanner.findChildren<QTimer*>();
+    QCOMPARE(timers.size(), 1);
+    QTimer* timer = timers.first();
+    QCOMPARE(timer->interval(), 1500);
+    // The facts alone must not start the ticks: the page decides when monitoring begins.
+    QVERIFY(gatherStaticInfo(scanner));
+    QVERIFY(!timer->isActive());
+
+    QSignalSpy reports(&scanner, &SystemInfoScanner::metricsUpdated);
+    scanner.startMonitoring();
+    QVERIFY(timer->isActive());
+    QVERIFY(QMetaObject::invokeMethod(timer, "timeout")); // a tick, without waiting 1.5 s for it
+    QCOMPARE(reports.count(), 1);
 }
 
 QTEST_MAIN(tst_SystemInfoScanner)
