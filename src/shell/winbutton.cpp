@@ -1,5 +1,6 @@
 #include "winbutton.h"
 
+#include <QApplication>
 #include <QPainter>
 
 namespace {
@@ -66,9 +67,11 @@ void WinButton::paintEvent(QPaintEvent*)
         break;
     case Restore: {
         p.drawRect(cx - 2, cy - 5, 7, 7);
-        // Cover the back window's lines where the front window overlaps it.
+        // Cover the back window's lines where the front window overlaps it. The button's own
+        // palette cannot supply the cover: its transparent style sheet makes the Window role
+        // transparent, so the colour comes from the palette it would have had without it.
         const QRect front(cx - 5, cy - 2, 7, 7);
-        p.fillRect(front, m_hovered ? HoverWash : palette().color(QPalette::Window));
+        p.fillRect(front, m_hovered ? HoverWash : QApplication::palette(this).color(QPalette::Window));
         p.drawRect(front);
         break;
     }

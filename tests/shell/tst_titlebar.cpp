@@ -228,6 +228,60 @@ private slots:
         QVERIFY(!button.isHovered());
     }
 
+    // Points are offsets from the button's centre (23, 16), away from stroke ends and corners
+    // where antialiasing leaves only a faint trace; blank points lie clear of every stroke.
+    void winButtonGlyphs_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QList<QPoint>>("inked");
+        QTest::addColumn<QList<QPoint>>("blank");
+        QTest::newRow("menu: three bars four apart")
+            << int(WinButton::Menu) << QList<QPoint> { { -5, -4 }, { 0, -4 }, { 0, 0 }, { 5, 0 }, { -5, 4 } }
+            << QList<QPoint> { { 0, -2 }, { 0, 2 }, { -9, 0 }, { 9, 0 }, { 0, 7 } };
+        QTest::newRow("minimise: one bar ten wide")
+            << int(WinButton::Minimize) << QList<QPoint> { { -4, 0 }, { 0, 0 }, { 4, 0 } }
+            << QList<QPoint> { { 0, -4 }, { 0, 4 }, { -8, 0 }, { 8, 0 } };
+        QTest::newRow("maximise: a ten-pixel square")
+            << int(WinButton::Maximize)
+            << QList<QPoint> { { 0, -5 }, { -3, -5 }, { -5, 0 }, { 5, 0 }, { 5, 3 }, { 0, 5 }, { 3, 5 } }
+            << QList<QPoint> { { 0, 0 }, { -2, 2 }, { 0, -8 }, { 8, 0 } };
+        // Where the back window's edges pass behind the front window they are covered.
+        QTest::newRow("restore: front window hides the back one")
+            << int(WinButton::Restore)
+            << QList<QPoint> { { 0, -5 }, { 3, -5 }, { 5, -2 }, { 5, 0 }, { 4, 2 }, { -5, 0 }, { -5, 3 }, { -2, 5 },
+                   { -3, -2 }, { 2, 3 } }
+            << QList<QPoint> { { -2, 0 }, { -2, 1 }, { 0, 2 }, { 0, 1 }, { -3, 3 }, { 3, -3 }, { -5, -5 }, { 5, 5 } };
+        QTest::newRow("close: two diagonals eight wide")
+            << int(WinButton::Close) << QList<QPoint> { { 0, 0 }, { -3, -3 }, { 2, 2 }, { 2, -3 }, { -3, 2 } }
+            << QList<QPoint> { { 0, -4 }, { 0, 4 }, { -4, 0 }, { 4, 0 }, { -6, -6 }, { 6, 6 } };
+    }
+
+    void winButtonGlyphs()
+    {
+        QFETCH(int, kind);
+        QFETCH(QList<QPoint>, inked);
+        QFETCH(QList<QPoint>, blank);
+        // The program's palette: the title bar and the window colour behind the glyphs are white.
+        const QPalette previous = QApplication::palette();
+        QPalette white = previous;
+        white.setColor(QPalette::Window, Qt::white);
+        QApplication::setPalette(white);
+        WinButton button(kind);
+        const QImage image = paint(button);
+        QApplication::setPalette(previous);
+        const QPoint centre(button.width() / 2, button.height() / 2);
+        for (const QPoint& offset : inked) {
+            const QColor c = image.pixelColor(centre + offset);
+            QVERIFY2(c.blue() < 215,
+                qPrintable(QStringLiteral("(%1, %2) %3").arg(offset.x()).arg(offset.y()).arg(c.name())));
+        }
+        for (const QPoint& offset : blank) {
+            const QColor c = image.pixelColor(centre + offset);
+            QVERIFY2(c == QColor(Qt::white),
+                qPrintable(QStringLiteral("(%1, %2) %3").arg(offset.x()).arg(offset.y()).arg(c.name())));
+        }
+    }
+
     void closeCrossTurnsWhiteOnHover()
     {
         WinButton button(WinButton::Close);
