@@ -282,6 +282,76 @@ private slots:
         }
     }
 
+    void menuLook_data()
+    {
+        QTest::addColumn<bool>("languages");
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<bool>("selected");
+        QTest::addColumn<QColor>("background");
+        QTest::addColumn<QColor>("ink");
+        const QColor white(Qt::white);
+        const QColor selected(0xf0, 0xf9, 0xff);
+        QTest::newRow("plain item") << false << "Quit" << false << white << QColor(0x33, 0x41, 0x55);
+        QTest::newRow("selected item") << false << "Quit" << true << selected << QColor(0x1e, 0x40, 0xaf);
+        QTest::newRow("language sub-menu, plain") << true << "de" << false << white << QColor();
+        QTest::newRow("language sub-menu, selected") << true << "de" << true << selected << QColor();
+    }
+
+    void menuLook()
+    {
+        QFETCH(bool, languages);
+        QFETCH(QString, entry);
+        QFETCH(bool, selected);
+        QFETCH(QColor, background);
+        QFETCH(QColor, ink);
+
+        TitleBar bar;
+        QMenu* menu = bar.menu();
+        QAction* action = nullptr;
+        if (languages) {
+            action = languageAction(bar, entry);
+            menu = nullptr;
+            for (QObject* object : action->associatedObjects()) {
+                if (auto* owner = qobject_cast<QMenu*>(object))
+                    menu = owner;
+            }
+        } else {
+            for (QAction* a : bar.menu()->actions()) {
+                if (a->text() == entry)
+                    action = a;
+            }
+        }
+        QVERIFY(action && menu);
+        menu->popup(QPoint(50, 50));
+        QVERIFY(QTest::qWaitForWindowExposed(menu));
+        if (selected)
+            menu->setActiveAction(action);
+        const QImage image = menu->grab().toImage();
+        menu->hide();
+
+        // The item's own margin is 4 px at the side; just inside it the item's background shows.
+        const QRect item = menu->actionGeometry(action);
+        const QColor fill = image.pixelColor(item.left() + 4 + 3, item.center().y());
+        QCOMPARE(fill.name(), background.name());
+        // The 1 px border.
+        QCOMPARE(image.pixelColor(0, image.height() / 2).name(), QStringLiteral("#e2e8f0"));
+
+        if (!ink.isValid())
+            return;
+        // The text's darkest pixel is the text colour itself.
+        QColor darkest = Qt::white;
+        for (int y = item.top(); y <= item.bottom(); ++y) {
+            for (int x = item.left(); x <= item.right(); ++x) {
+                const QColor c = image.pixelColor(x, y);
+                if (c.lightness() < darkest.lightness())
+                    darkest = c;
+            }
+        }
+        QVERIFY2(qAbs(darkest.red() - ink.red()) <= 6 && qAbs(darkest.green() - ink.green()) <= 6
+                && qAbs(darkest.blue() - ink.blue()) <= 6,
+            qPrintable(darkest.name()));
+    }
+
     void closeCrossTurnsWhiteOnHover()
     {
         WinButton button(WinButton::Close);
