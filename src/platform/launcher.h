@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace platform {
@@ -21,6 +22,9 @@ struct ShellExecuteRequest {
     std::wstring parameters; // passed as one text; empty means none
     std::wstring directory; // empty means none
     int show = ShowNormal;
+    // Called once the process runs, before the wait begins (callers log that they are waiting);
+    // not called when the start fails.
+    std::function<void()> started;
 };
 
 struct ShellExecuteResult {

@@ -482,6 +482,7 @@ bool UninstallManager::uninstall(const InstalledApp& app)
         request.file = command->program.toStdWString();
         request.parameters = command->parameters().toStdWString();
         request.show = platform::ShowNormal;
+        request.started = [] { qDebug() << "[UninstallManager] Waiting for uninstaller..."; };
         const platform::ShellExecuteResult result
             = platform::current().launcher().shellExecuteAndWait(request, UninstallTimeoutMs);
         if (!result.started) {
@@ -489,13 +490,12 @@ bool UninstallManager::uninstall(const InstalledApp& app)
             if (!result.message.empty())
                 qWarning() << "[UninstallManager]" << fromWide(result.message);
         } else {
-            qDebug() << "[UninstallManager] Waiting for uninstaller...";
             qDebug() << "[UninstallManager] Exit code:" << result.exitCode << "waitResult:" << result.waitResult;
             ok = result.exitCode == 0;
         }
         // Many uninstallers hand over to a copy of themselves and report an odd code; a folder
         // that is gone says more than the code does.
-        if (!ok && !app.installLocation.isEmpty() && !QFileInfo::exists(localPath(app.installLocation))) {
+        if (!ok && !app.installLocation.isEmpty() && !QFileInfo(localPath(app.installLocation)).isDir()) {
             qDebug() << "[UninstallManager] Install dir gone,"
                      << "treating as success:" << app.name;
             ok = true;

@@ -43,8 +43,11 @@ protected:
         platform::ShellExecuteRequest request;
         request.file = file;
         request.parameters = parameters;
+        request.started = [this] { ++m_startedCalls; };
         return m_launcher->shellExecuteAndWait(request, 60000);
     }
+
+    int m_startedCalls = 0;
 
 private:
     std::unique_ptr<platform::Launcher> m_launcher;
@@ -59,6 +62,7 @@ TEST_F(LauncherContract, MissingProgramIsNotStarted)
     // reports that instead. Either way the caller learns why from a non-zero code.
     EXPECT_NE(result.error, 0u);
     EXPECT_EQ(result.exitCode, 1u); // never mistaken for success
+    EXPECT_EQ(m_startedCalls, 0);
 }
 
 TEST_F(LauncherContract, InstallerReportsUnknownProduct)
@@ -67,6 +71,7 @@ TEST_F(LauncherContract, InstallerReportsUnknownProduct)
     ASSERT_TRUE(result.started);
     EXPECT_EQ(result.waitResult, platform::WaitObject0);
     EXPECT_EQ(result.exitCode, 1605u); // ERROR_UNKNOWN_PRODUCT
+    EXPECT_EQ(m_startedCalls, 1);
 }
 
 } // namespace

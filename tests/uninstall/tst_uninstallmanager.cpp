@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -42,6 +43,19 @@ std::vector<std::uint8_t> userAssistData(std::size_t bytes, const QDate& day)
     for (std::size_t i = 0; i < 8 && 16 + i < bytes; ++i)
         data[16 + i] = std::uint8_t(ft >> (8 * i));
     return data;
+}
+
+// Log lines of an uninstall; the waiting line notes whether the install folder was still there
+// when it was written, which tells whether it came before the uninstaller ran or after.
+QStringList g_log;
+QString g_watchedFolder;
+
+void captureLog(QtMsgType, const QMessageLogContext&, const QString& message)
+{
+    if (message.contains(QLatin1String("Waiting for uninstaller")))
+        g_log << message + (QFileInfo(g_watchedFolder).isDir() ? " (folder present)" : " (folder gone)");
+    else
+        g_log << message;
 }
 
 InstalledApp app(const QString& name, const QString& status, qint64 size)
@@ -523,7 +537,10 @@ void tst_UninstallManager::userAssistBounds()
     put(UserAssistKey2, "D:\\B\\TWICE.exe", userAssistData(64, early)); // earlier date loses
     put(UserAssistKey2, "C:\\A\\second.exe --x", userAssistData(40, late));
     reg().setString(Hive::CurrentUser, UserAssistKey, w(UninstallManager::rot13("C:\\A\\text.exe")), L"not binary");
-    reg().setBinary(Hive::CurrentUser, UserAssistKey, std::wstring(2048, L'n'), userAssistData(64, early));
+    // The name buffer holds 2,048 characters with the terminator.
+    const QString longFolder = "C:\\" + QString(2035, 'x') + "\\";
+    put(UserAssistKey, longFolder + "fits.exe", userAssistData(64, early)); // 2,047 characters
+    put(UserAssistKey, longFolder + "long1.exe", userAssistData(64, early)); // 2,048 characters
 
     UninstallManager manager;
     manager.loadUsageData();
@@ -536,7 +553,9 @@ void tst_UninstallManager::userAssistBounds()
     QVERIFY(!usage.contains("short.exe"));
     QVERIFY(!usage.contains("zero.exe"));
     QVERIFY(!usage.contains("text.exe"));
-    QCOMPARE(usage.size(), 4);
+    QCOMPARE(usage.value("fits.exe"), early);
+    QVERIFY(!usage.contains("long1.exe"));
+    QCOMPARE(usage.size(), 5);
 
     QVERIFY(!UninstallManager::fileTimeToDate(0).isValid());
     QVERIFY(!UninstallManager::fileTimeToDate(116444735999999999ULL).isValid());
@@ -565,6 +584,15 @@ void tst_UninstallManager::historyRoundTrip()
     QCOMPARE(history[0].displayIcon, "C:\\Tools\\tool.exe,0");
     QVERIFY(history[0].uninstalledAt.isValid());
     QVERIFY(qAbs(history[1].uninstalledAt.secsTo(QDateTime::currentDateTime())) < 60);
+    {
+        // Local time to the second, without an offset or milliseconds.
+        QFile written(UninstallManager::historyFilePath());
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        const QString at = QJsonDocument::fromJson(written.readAll()).array()[0].toObject()["uninstalledAt"].toString();
+        QVERIFY2(
+            QRegularExpression("^\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d$").match(at).hasMatch(), qPrintable(at));
+        QCOMPARE(QDateTime::fromString(at, Qt::ISODate).timeSpec(), Qt::LocalTime);
+    }
 
     // An unparsable time survives a load and goes back out as an empty text.
     QFile file(UninstallManager::historyFilePath());
@@ -664,6 +692,9 @@ void tst_UninstallManager::uninstall_data()
     QTest::newRow("unparsable command, folder gone") << "   "
                                                      << ""
                                                      << "C:\\Gone" << false;
+    QTest::newRow("exit 1, location names a file") << "C:\\Program Files\\Tool\\unins000.exe"
+                                                   << "exit=1\n"
+                                                   << folder + "\\tool.exe" << true;
 }
 
 void tst_UninstallManager::uninstall()
@@ -687,7 +718,20 @@ void tst_UninstallManager::uninstall()
     UninstallManager manager;
     QSignalSpy started(&manager, &UninstallManager::uninstallStarted);
     QSignalSpy finished(&manager, &UninstallManager::uninstallFinished);
-    QCOMPARE(manager.uninstall(a), ok);
+    g_log.clear();
+    g_watchedFolder = UninstallManager::localPath("C:\\Program Files\\Tool");
+    const QtMessageHandler previous = qInstallMessageHandler(captureLog);
+    const bool result = manager.uninstall(a);
+    qInstallMessageHandler(previous);
+    QCOMPARE(result, ok);
+    // The sandbox plays an uninstaller only when it has a script for it.
+    const int waiting = g_log.indexOf(QRegularExpression("\\[UninstallManager\\] Waiting for uninstaller.*"));
+    if (script.isEmpty()) {
+        QCOMPARE(waiting, -1);
+    } else {
+        QCOMPARE(g_log.value(waiting), "[UninstallManager] Waiting for uninstaller... (folder present)");
+        QVERIFY(waiting < g_log.indexOf(QRegularExpression("\\[UninstallManager\\] Exit code:.*")));
+    }
     QCOMPARE(started.size(), 1);
     QCOMPARE(started[0][0].toString(), "Tool");
     QCOMPARE(finished.size(), 1);

@@ -101,6 +101,8 @@ ShellExecuteResult SandboxLauncher::shellExecuteAndWait(const ShellExecuteReques
         // Windows Installer itself is always there; what it does depends on the product code.
         result.started = true;
         result.waitResult = WaitObject0;
+        if (request.started)
+            request.started();
         const std::size_t open = request.parameters.find(L'{');
         const std::size_t close = open == std::wstring::npos ? open : request.parameters.find(L'}', open);
         if (close == std::wstring::npos) {
@@ -135,6 +137,8 @@ ShellExecuteResult SandboxLauncher::shellExecuteAndWait(const ShellExecuteReques
         result.message = L"The sandbox runs only demo uninstallers; " + request.file + demoSuffix() + L" is missing";
         return result;
     }
+    if (request.started)
+        request.started();
     return play(*script);
 }
 

@@ -29,6 +29,8 @@ ShellExecuteResult WinLauncher::shellExecuteAndWait(const ShellExecuteRequest& r
         return result;
     }
     result.started = true;
+    if (request.started)
+        request.started();
     result.waitResult = WaitForSingleObject(process.get(), timeoutMs);
     DWORD code = 1;
     if (GetExitCodeProcess(process.get(), &code))

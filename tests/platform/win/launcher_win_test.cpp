@@ -83,6 +83,24 @@ TEST_F(WinLauncherTest, ExitCodesPassThrough)
     EXPECT_EQ(m_launcher.shellExecuteAndWait(request, 60000).exitCode, 7u);
 }
 
+TEST_F(WinLauncherTest, StartedIsReportedBeforeTheWait)
+{
+    platform::ShellExecuteRequest request;
+    request.file = helper();
+    request.parameters = L"--sleep 2000 --delete " + quotedFolder() + L" --exit 0";
+    int calls = 0;
+    bool folderThere = false;
+    request.started = [&] {
+        ++calls;
+        folderThere = fs::exists(m_folder);
+    };
+    const auto result = m_launcher.shellExecuteAndWait(request, 60000);
+    ASSERT_TRUE(result.started) << result.error;
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(folderThere); // the uninstaller was still asleep
+    EXPECT_FALSE(fs::exists(m_folder));
+}
+
 TEST_F(WinLauncherTest, TimeOutLeavesTheUninstallerRunning)
 {
     const auto result = run(L"--sleep 3000 --exit 0", 200);

@@ -1,6 +1,7 @@
 // A stand-in uninstaller for the Wine lane:
 //   fake_uninstaller.exe [--delete <folder>] [--sleep <ms>] [--exit <code>]
-// removes the folder, sleeps, and exits with the code, in that order.
+// sleeps, removes the folder, and exits with the code, in that order (so a caller can look at
+// the folder while the uninstaller is still running).
 
 #include <windows.h>
 
@@ -29,11 +30,11 @@ int main()
             code = static_cast<int>(std::wcstol(argv[i + 1], nullptr, 10));
     }
     LocalFree(argv);
+    if (sleepMs)
+        Sleep(sleepMs);
     if (!folder.empty()) {
         std::error_code ignored;
         std::filesystem::remove_all(std::filesystem::path(folder), ignored);
     }
-    if (sleepMs)
-        Sleep(sleepMs);
     return code;
 }
