@@ -31,7 +31,6 @@ private slots:
     void sizeColoursAndBar_data();
     void sizeColoursAndBar();
     void pressTogglesAndPaints();
-    void setSelectedSignalsOnlyChanges();
 };
 
 void tst_CleanupRowWidget::formatSize_data()
@@ -124,17 +123,6 @@ void tst_CleanupRowWidget::pressTogglesAndPaints()
     QCOMPARE(changed.count(), 2);
     QCOMPARE(changed.at(1).at(0).toBool(), false);
     QVERIFY(!row.isSelected());
-}
-
-void tst_CleanupRowWidget::setSelectedSignalsOnlyChanges()
-{
-    CleanupRowWidget row(category(true));
-    QVERIFY(row.isSelected());
-    QSignalSpy changed(&row, &CleanupRowWidget::selectionChanged);
-    row.setSelected(true);
-    QCOMPARE(changed.count(), 0);
-    row.setSelected(false);
-    QCOMPARE(changed.count(), 1);
 }
 
 QTEST_MAIN(tst_CleanupRowWidget)
