@@ -58,6 +58,24 @@ QByteArray sampleCatalogue(const QStringList& supported = AllCodes, const QStrin
     return QJsonDocument(root).toJson();
 }
 
+// Collects the debug lines written while it lives.
+class LogCapture {
+public:
+    LogCapture()
+    {
+        s_lines.clear();
+        m_previous = qInstallMessageHandler(&LogCapture::collect);
+    }
+    ~LogCapture() { qInstallMessageHandler(m_previous); }
+    bool contains(const QString& line) const { return s_lines.contains(line); }
+    QString dump() const { return s_lines.join(QLatin1Char('\n')); }
+
+private:
+    static void collect(QtMsgType, const QMessageLogContext&, const QString& message) { s_lines.append(message); }
+    static inline QStringList s_lines;
+    QtMessageHandler m_previous = nullptr;
+};
+
 } // namespace
 
 class tst_LinkManager final : public QObject {
@@ -157,20 +175,24 @@ void tst_LinkManager::detectsLanguage_data()
     QTest::addColumn<QStringList>("supported");
     QTest::addColumn<QString>("fallback");
     QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("log");
 
+    const QString fromLocale = QStringLiteral("[LinkManager] 系统语言: \"de_DE\" -> 映射为: \"de\"");
     QTest::newRow("nothing stored: the system locale decides") << QString() << AllCodes << "en"
-                                                               << "de";
-    QTest::newRow("a stored supported code wins over the locale") << "fr" << AllCodes << "en"
-                                                                  << "fr";
+                                                               << "de" << fromLocale;
+    QTest::newRow("a stored supported code wins over the locale")
+        << "fr" << AllCodes << "en"
+        << "fr" << QStringLiteral("[LinkManager] 使用用户设置的语言: \"fr\"");
     QTest::newRow("a stored unknown code is ignored") << "xx" << AllCodes << "en"
-                                                      << "de";
+                                                      << "de" << fromLocale;
     QTest::newRow("stored codes match case-sensitively") << "FR" << AllCodes << "en"
-                                                         << "de";
+                                                         << "de" << fromLocale;
     QTest::newRow("locale's language unsupported: the fallback")
         << QString() << QStringList { "en", "fr", "ja" } << "ja"
-        << "ja";
-    QTest::newRow("stored code outside a short list, locale unsupported") << "ko" << QStringList { "en", "fr" } << "fr"
-                                                                          << "fr";
+        << "ja" << QStringLiteral("[LinkManager] 不支持的语言，使用回退语言: \"ja\"");
+    QTest::newRow("stored code outside a short list, locale unsupported")
+        << "ko" << QStringList { "en", "fr" } << "fr"
+        << "fr" << QStringLiteral("[LinkManager] 不支持的语言，使用回退语言: \"fr\"");
 }
 
 void tst_LinkManager::detectsLanguage()
@@ -179,13 +201,18 @@ void tst_LinkManager::detectsLanguage()
     QFETCH(QStringList, supported);
     QFETCH(QString, fallback);
     QFETCH(QString, expected);
+    QFETCH(QString, log);
 
     storeLanguage(stored);
     const QString path = writeFile(sampleCatalogue(supported, fallback));
     QVERIFY(!path.isEmpty());
 
+    const LogCapture capture;
     LinkManager manager(path);
     QCOMPARE(manager.currentLanguage(), expected);
+    QVERIFY2(capture.contains(log), qPrintable(capture.dump()));
+    QVERIFY2(
+        capture.contains(QStringLiteral("[LinkManager] 当前语言: \"%1\"").arg(expected)), qPrintable(capture.dump()));
     QCOMPARE(manager.supportedLanguages(), supported);
     QCOMPARE(manager.fallbackLanguage(), fallback);
     // Detection only reads the store.
@@ -198,34 +225,44 @@ void tst_LinkManager::lookup_data()
     QTest::addColumn<QString>("category");
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("log");
 
-    QTest::newRow("current language present") << "ja"
-                                              << "support"
-                                              << "help"
-                                              << "https://example.test/ja/help";
-    QTest::newRow("current language missing: the fallback's") << "ja"
-                                                              << "support"
-                                                              << "partial"
-                                                              << "https://example.test/en/partial";
-    QTest::newRow("current language present beside the fallback") << "fr"
-                                                                  << "support"
-                                                                  << "partial"
-                                                                  << "https://example.test/fr/partial";
-    QTest::newRow("neither current nor fallback") << "de"
-                                                  << "support"
-                                                  << "orphan" << QString();
+    QTest::newRow("current language present")
+        << "ja"
+        << "support"
+        << "help"
+        << "https://example.test/ja/help"
+        << "[LinkManager] 获取链接: \"support\" / \"help\" / \"ja\" -> \"https://example.test/ja/help\"";
+    QTest::newRow("current language missing: the fallback's")
+        << "ja"
+        << "support"
+        << "partial"
+        << "https://example.test/en/partial"
+        << "[LinkManager] 语言 \"ja\" 不存在，使用回退语言: \"en\"";
+    QTest::newRow("current language present beside the fallback")
+        << "fr"
+        << "support"
+        << "partial"
+        << "https://example.test/fr/partial"
+        << "[LinkManager] 获取链接: \"support\" / \"partial\" / \"fr\" -> \"https://example.test/fr/partial\"";
+    QTest::newRow("neither current nor fallback")
+        << "de"
+        << "support"
+        << "orphan" << QString() << "[LinkManager] 无法找到链接: \"support\" / \"orphan\"";
     QTest::newRow("missing category") << "de"
                                       << "nosuch"
-                                      << "help" << QString();
+                                      << "help" << QString() << "[LinkManager] 类别不存在: \"nosuch\"";
     QTest::newRow("missing key") << "de"
                                  << "support"
-                                 << "nosuch" << QString();
-    QTest::newRow("metadata is no category of links") << "de"
-                                                      << "metadata"
-                                                      << "version" << QString();
+                                 << "nosuch" << QString()
+                                 << "[LinkManager] 键不存在: \"nosuch\" in category: \"support\"";
+    QTest::newRow("metadata is no category of links")
+        << "de"
+        << "metadata"
+        << "version" << QString() << "[LinkManager] 无法找到链接: \"metadata\" / \"version\"";
     QTest::newRow("names are case-sensitive") << "de"
                                               << "Support"
-                                              << "help" << QString();
+                                              << "help" << QString() << "[LinkManager] 类别不存在: \"Support\"";
 }
 
 void tst_LinkManager::lookup()
@@ -234,6 +271,7 @@ void tst_LinkManager::lookup()
     QFETCH(QString, category);
     QFETCH(QString, key);
     QFETCH(QString, expected);
+    QFETCH(QString, log);
 
     const QString path = writeFile(sampleCatalogue());
     QVERIFY(!path.isEmpty());
@@ -241,8 +279,10 @@ void tst_LinkManager::lookup()
     manager.setLanguage(language);
     QCOMPARE(manager.currentLanguage(), language);
 
+    const LogCapture capture;
     const QString link = manager.getLink(category, key);
     QCOMPARE(link, expected);
+    QVERIFY2(capture.contains(log), qPrintable(capture.dump()));
     QCOMPARE(link.isNull() || link.isEmpty(), expected.isEmpty());
 }
 
@@ -310,24 +350,33 @@ void tst_LinkManager::badFileGivesEmptyCatalogue_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<bool>("exists");
+    QTest::addColumn<QString>("reason");
 
-    QTest::newRow("missing file") << QByteArray() << false;
-    QTest::newRow("empty file") << QByteArray() << true;
-    QTest::newRow("truncated JSON") << sampleCatalogue().left(120) << true;
-    QTest::newRow("array root") << QByteArray("[{\"support\":{}}]") << true;
-    QTest::newRow("binary garbage") << QByteArray("\x00\xff\xfe{\x01", 5) << true;
+    const QString malformed = QStringLiteral("[LinkManager] JSON 格式错误");
+    QTest::newRow("missing file") << QByteArray() << false << QStringLiteral("[LinkManager] 无法打开 links.json:");
+    QTest::newRow("empty file") << QByteArray() << true << malformed;
+    QTest::newRow("truncated JSON") << sampleCatalogue().left(120) << true << malformed;
+    QTest::newRow("array root") << QByteArray("[{\"support\":{}}]") << true << malformed;
+    QTest::newRow("binary garbage") << QByteArray("\x00\xff\xfe{\x01", 5) << true << malformed;
 }
 
 void tst_LinkManager::badFileGivesEmptyCatalogue()
 {
     QFETCH(QByteArray, content);
     QFETCH(bool, exists);
+    QFETCH(QString, reason);
 
     storeLanguage("fr");
     const QString path = exists ? writeFile(content) : m_dir.filePath("absent.json");
     QVERIFY(!path.isEmpty());
 
+    const LogCapture capture;
     LinkManager manager(path);
+    // The reason comes first (an unopenable file adds the system's error text), then the failure.
+    const QString log = capture.dump();
+    const int failed = log.indexOf(QStringLiteral("[LinkManager] 加载链接配置失败！"));
+    QVERIFY2(failed > 0 && log.lastIndexOf(reason, failed) >= 0 && !log.contains(QStringLiteral("元数据加载成功")),
+        qPrintable(log));
     QVERIFY(manager.supportedLanguages().isEmpty());
     // Nothing is supported, so neither the stored code nor the locale's is taken.
     QCOMPARE(manager.currentLanguage(), QStringLiteral("en"));
