@@ -154,4 +154,33 @@ TEST_F(FileSystemContract, SubFoldersListsFoldersOnly)
     EXPECT_FALSE(fileSystem().isFolder(path("missing")));
 }
 
+TEST_F(FileSystemContract, StraySeparatorsAndDotsNameTheSameFolder)
+{
+    // How category paths are made: a base folder from the environment with "/Name/..." appended
+    // as plain text, so a base that ends in a separator doubles it.
+    write("Local/Google/Chrome/User Data/Default/Cache/f_000001", 40);
+    write("Local/Google/Chrome/User Data/Default/Cache/sub/f_000002", 2);
+    const std::wstring base = path("Local");
+    std::vector<std::wstring> spellings = {
+        base + L"//Google/Chrome/User Data/Default/Cache",
+        base + L"/Google/./Chrome/User Data//Default/Cache/",
+    };
+#ifdef _WIN32
+    std::wstring native = base;
+    std::replace(native.begin(), native.end(), L'/', L'\\');
+    spellings.push_back(native + L"\\/Google/Chrome/User Data/Default/Cache");
+#endif
+    for (const std::wstring& spelling : spellings) {
+        SCOPED_TRACE(std::string(spelling.begin(), spelling.end()));
+        EXPECT_TRUE(fileSystem().isFolder(spelling));
+        EXPECT_EQ(fileSystem().folderSize(spelling), 42);
+        const auto names = fileSystem().subFolders(spelling);
+        ASSERT_TRUE(names.has_value());
+        EXPECT_EQ(*names, std::vector<std::wstring> { L"sub" });
+    }
+    EXPECT_TRUE(fileSystem().emptyFolder(spellings.back()).opened);
+    EXPECT_TRUE(fs::is_directory(fs::path(path("Local/Google/Chrome/User Data/Default/Cache"))));
+    EXPECT_TRUE(fs::is_empty(fs::path(path("Local/Google/Chrome/User Data/Default/Cache"))));
+}
+
 } // namespace

@@ -18,7 +18,9 @@ struct FindTraits {
 using UniqueFind = UniqueAny<FindTraits>;
 
 // Backslashes, no trailing separator, and the "\\?\" prefix on absolute paths so that deep
-// trees are not cut off at MAX_PATH.
+// trees are not cut off at MAX_PATH. The prefix also switches off Win32's own clean-up of the
+// path, so that is done first: a base folder from the environment that ends in a separator, with
+// "/Google/..." appended to it, must still name the folder it names everywhere else.
 std::wstring toWin32Path(const std::wstring& path)
 {
     std::wstring p = path;
@@ -26,10 +28,20 @@ std::wstring toWin32Path(const std::wstring& path)
         if (c == L'/')
             c = L'\\';
     }
+    // Already in the form the file system takes as it is: "\\?\" and device paths ("\\.\").
+    if (p.empty() || p.rfind(L"\\\\?\\", 0) == 0 || p.rfind(L"\\\\.\\", 0) == 0)
+        return p;
+    const DWORD needed = ::GetFullPathNameW(p.c_str(), 0, nullptr, nullptr);
+    if (needed > 0) {
+        std::wstring full(needed, L'\0');
+        const DWORD written = ::GetFullPathNameW(p.c_str(), needed, full.data(), nullptr);
+        if (written > 0 && written < needed) {
+            full.resize(written);
+            p = full;
+        }
+    }
     while (p.size() > 3 && p.back() == L'\\')
         p.pop_back();
-    if (p.rfind(L"\\\\?\\", 0) == 0)
-        return p;
     if (p.size() >= 3 && p[1] == L':' && p[2] == L'\\')
         return L"\\\\?\\" + p;
     if (p.size() > 2 && p[0] == L'\\' && p[1] == L'\\')
