@@ -1,6 +1,7 @@
 #include "app/startup.h"
 
 #include <QApplication>
+#include <QResource>
 #include <QSettings>
 #include <QStringList>
 #include <QStyle>
@@ -118,6 +119,13 @@ private slots:
         Startup::applyStyleSheet();
         QVERIFY(qApp->styleSheet().contains(QLatin1String("#NavButton")));
         qApp->setStyleSheet(QString());
+        // zlib (or stored as is), never zstd, for every resource the shell reads.
+        for (const char* path : { ":/styles/main.qss", ":/data/data/links.json", ":/icons/icons/logo.ico",
+                 ":/translations/translations/Norvale_en.qm" }) {
+            const QResource resource(QString::fromLatin1(path));
+            QVERIFY2(resource.isValid(), path);
+            QVERIFY2(resource.compressionAlgorithm() != QResource::ZstdCompression, path);
+        }
     }
 
     void paletteAndFont()
