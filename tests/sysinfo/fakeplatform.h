@@ -1,34 +1,45 @@
 #pragma once
 
-#include "fakesystemcounters.h"
-
-#include <QString>
-
+#include "platform/environment.h"
 #include "platform/platform.h"
 #include "platform/sandbox/sandboxplatform.h"
+#include "platform/systemcounters.h"
 
-// A sandbox machine in a folder whose counters the test controls. Installs itself as the
-// process-wide platform for its lifetime.
-class FakePlatform final : public platform::Platform {
+#include <QTemporaryDir>
+
+// A sandbox machine with chosen counters, current while it lives. Tests set the counters before the
+// scanner's worker starts, so they need no lock. Only the system drive has disk space.
+class FakePlatform final : public platform::Platform, public platform::SystemCounters {
 public:
-    explicit FakePlatform(const QString& root)
-        : m_sandbox(root.toStdWString())
-    {
-        platform::setCurrent(this);
-    }
+    FakePlatform() { platform::setCurrent(this); }
     ~FakePlatform() override { platform::setCurrent(nullptr); }
 
-    FakeSystemCounters fakeCounters;
+    std::optional<platform::SystemTimes> times;
+    std::optional<platform::MemoryStatus> memory;
+    std::optional<platform::DiskSpace> disk;
+    unsigned processors = 8;
+    std::uint64_t ticks = 0;
+
+    std::optional<platform::SystemTimes> systemTimes() const override { return times; }
+    std::optional<platform::MemoryStatus> memoryStatus() const override { return memory; }
+    std::optional<platform::DiskSpace> diskSpace(const std::wstring& path) const override
+    {
+        return path == m_systemDrive ? disk : std::nullopt;
+    }
+    unsigned processorCount() const override { return processors; }
+    std::uint64_t tickCount() const override { return ticks; }
 
     platform::Registry& registry() override { return m_sandbox.registry(); }
     platform::Environment& environment() override { return m_sandbox.environment(); }
     platform::WindowFrame& windowFrame() override { return m_sandbox.windowFrame(); }
-    platform::SystemCounters& counters() override { return fakeCounters; }
+    platform::SystemCounters& counters() override { return *this; }
     platform::FileSystem& fileSystem() override { return m_sandbox.fileSystem(); }
     platform::Launcher& launcher() override { return m_sandbox.launcher(); }
     platform::IconExtractor& icons() override { return m_sandbox.icons(); }
     std::wstring sandboxRoot() const override { return m_sandbox.sandboxRoot(); }
 
 private:
-    platform::SandboxPlatform m_sandbox;
+    QTemporaryDir m_dir;
+    platform::SandboxPlatform m_sandbox { m_dir.path().toStdWString() };
+    const std::wstring m_systemDrive = m_sandbox.environment().systemDriveRoot();
 };
