@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 // A machine in a temporary folder, made the process's platform for as long as it lives. Workers
@@ -20,37 +19,28 @@ public:
     }
     ~CleanupSandbox() { platform::setCurrent(nullptr); }
 
-    bool isValid() const { return m_dir.isValid(); }
     // Beside the machine, for what no clean may ever reach.
     QString outside(const QString& relative) const { return m_dir.filePath(QStringLiteral("outside/") + relative); }
-    // "C:/Windows/Temp" and the like, as the sandbox places them.
-    QString machine(const QString& windowsPath) const
+    // "C:/..." as the sandbox places it; "L:" and "R:" stand for Local and Roaming AppData.
+    QString machine(const QString& path) const
     {
-        return QString::fromStdWString(m_platform.environment().mapPath(windowsPath.toStdWString()));
+        if (path.startsWith(QLatin1String("L:")) || path.startsWith(QLatin1String("R:")))
+            return env(path.startsWith(QLatin1Char('L')) ? L"LOCALAPPDATA" : L"APPDATA") + QLatin1Char('/')
+                + path.mid(2);
+        return QString::fromStdWString(m_platform.environment().mapPath(path.toStdWString()));
     }
-    QString local(const QString& relative) const { return variable(L"LOCALAPPDATA") + QLatin1Char('/') + relative; }
-    QString roaming(const QString& relative) const { return variable(L"APPDATA") + QLatin1Char('/') + relative; }
 
-    static bool makeFolder(const QString& path) { return QDir().mkpath(path); }
-
-    // Real bytes, so that deleting them is observable.
-    static bool writeFile(const QString& path, qint64 bytes)
+    // A sparse file has the length but takes no disk space: sizes come from metadata only.
+    static bool write(const QString& path, qint64 bytes, bool sparse = false)
     {
         QDir().mkpath(QFileInfo(path).absolutePath());
         QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.write(QByteArray(bytes, 'j')) == bytes;
-    }
-
-    // A file of the given length that takes no disk space: sizes come from metadata only.
-    static bool writeSparse(const QString& path, qint64 bytes)
-    {
-        QDir().mkpath(QFileInfo(path).absolutePath());
-        QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.resize(bytes);
+        return file.open(QIODevice::WriteOnly)
+            && (sparse ? file.resize(bytes) : file.write(QByteArray(bytes, 'j')) == bytes);
     }
 
 private:
-    QString variable(const wchar_t* name) const
+    QString env(const wchar_t* name) const
     {
         return QString::fromStdWString(m_platform.environment().variable(name).value_or(std::wstring()));
     }

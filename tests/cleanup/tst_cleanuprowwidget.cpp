@@ -6,118 +6,75 @@
 #include <QTest>
 
 namespace {
-
 constexpr qint64 MiB = 1024 * 1024;
 constexpr qint64 GiB = 1024 * MiB;
-
-JunkCategory category(bool selected)
-{
-    return { QStringLiteral("prefetch"), QStringLiteral("Prefetch"), QStringLiteral("⚡"),
-        { QStringLiteral("C:/Windows/Prefetch"), QStringLiteral("C:/Other") }, 0, selected };
-}
-
-QColor pixel(QWidget& widget, QPoint at)
-{
-    return widget.grab().toImage().pixelColor(at);
-}
-
 } // namespace
 
 class tst_CleanupRowWidget : public QObject {
     Q_OBJECT
 private slots:
-    void formatSize_data();
-    void formatSize();
-    void sizeColoursAndBar_data();
-    void sizeColoursAndBar();
+    void sizeTextColourAndBar_data();
+    void sizeTextColourAndBar();
     void pressTogglesAndPaints();
 };
 
-void tst_CleanupRowWidget::formatSize_data()
+void tst_CleanupRowWidget::sizeTextColourAndBar_data()
 {
     QTest::addColumn<qint64>("bytes");
     QTest::addColumn<QString>("text");
-    QTest::newRow("zero") << qint64(0) << "0 KB";
-    QTest::newRow("negative") << qint64(-5000) << "0 KB";
-    QTest::newRow("whole KB below 1 MiB") << qint64(10 * 1024) << "10 KB";
-    QTest::newRow("just below 1 MiB stays KB") << MiB - 1 << "1024 KB";
-    QTest::newRow("1 MiB") << MiB << "1 MB";
-    QTest::newRow("MB without decimals") << qint64(300.4 * MiB) << "300 MB";
-    QTest::newRow("1 GiB has one decimal") << GiB << "1.0 GB";
-    QTest::newRow("2.5 GiB") << GiB * 5 / 2 << "2.5 GB";
+    QTest::addColumn<QString>("colour"); // of the text; the bar's is the lighter shade
+    QTest::addColumn<int>("bar");
+
+    const QString blue = "#2563eb/#3b82f6", amber = "#d97706/#f59e0b", red = "#dc2626/#ef4444";
+    QTest::newRow("negative") << qint64(-5000) << "0 KB" << blue << 0;
+    QTest::newRow("a few bytes") << qint64(3) << "0 KB" << blue << 0;
+    QTest::newRow("just below 1 MiB stays KB") << MiB - 1 << "1024 KB" << blue << 0;
+    QTest::newRow("1 MiB") << MiB << "1 MB" << blue << 0;
+    QTest::newRow("exactly 200 MiB is blue") << 200 * MiB << "200 MB" << blue << 19;
+    QTest::newRow("one byte more is amber") << 200 * MiB + 1 << "200 MB" << amber << 19;
+    QTest::newRow("MB without decimals") << qint64(300.4 * MiB) << "300 MB" << amber << 29;
+    QTest::newRow("exactly 800 MiB is amber") << 800 * MiB << "800 MB" << amber << 78;
+    QTest::newRow("one byte more is red") << 800 * MiB + 1 << "800 MB" << red << 78;
+    QTest::newRow("1 GiB has one decimal") << GiB << "1.0 GB" << red << 100;
+    QTest::newRow("past 2 GiB the bar stays full") << GiB * 5 / 2 << "2.5 GB" << red << 100;
 }
 
-void tst_CleanupRowWidget::formatSize()
+void tst_CleanupRowWidget::sizeTextColourAndBar()
 {
     QFETCH(qint64, bytes);
     QFETCH(QString, text);
-    QCOMPARE(CleanupRowWidget::formatSize(bytes), text);
-}
+    QFETCH(QString, colour);
+    QFETCH(int, bar);
 
-void tst_CleanupRowWidget::sizeColoursAndBar_data()
-{
-    QTest::addColumn<qint64>("bytes");
-    QTest::addColumn<QString>("textColour");
-    QTest::addColumn<QString>("barColour");
-    QTest::addColumn<int>("barValue");
-
-    QTest::newRow("empty") << qint64(0) << "#2563eb"
-                           << "#3b82f6" << 0;
-    QTest::newRow("exactly 200 MiB is blue") << 200 * MiB << "#2563eb"
-                                             << "#3b82f6" << 19;
-    QTest::newRow("one byte more is amber") << 200 * MiB + 1 << "#d97706"
-                                            << "#f59e0b" << 19;
-    QTest::newRow("exactly 800 MiB is amber") << 800 * MiB << "#d97706"
-                                              << "#f59e0b" << 78;
-    QTest::newRow("one byte more is red") << 800 * MiB + 1 << "#dc2626"
-                                          << "#ef4444" << 78;
-    QTest::newRow("2 GiB fills the bar and no more") << 2 * GiB << "#dc2626"
-                                                     << "#ef4444" << 100;
-    QTest::newRow("a few bytes show an empty bar") << qint64(3) << "#2563eb"
-                                                   << "#3b82f6" << 0;
-}
-
-void tst_CleanupRowWidget::sizeColoursAndBar()
-{
-    QFETCH(qint64, bytes);
-    QFETCH(QString, textColour);
-    QFETCH(QString, barColour);
-    QFETCH(int, barValue);
-
-    CleanupRowWidget row(category(true));
+    CleanupRowWidget row({ "prefetch", "Prefetch", "⚡", { "C:/Windows/Prefetch" }, 0, true });
     auto* label = row.findChild<QLabel*>(QStringLiteral("CleanupRowSize"));
-    auto* bar = row.findChild<QProgressBar*>(QStringLiteral("CleanupRowBar"));
-    QVERIFY(label && bar);
+    auto* progress = row.findChild<QProgressBar*>(QStringLiteral("CleanupRowBar"));
+    QVERIFY(label && progress);
     row.setSize(bytes);
-    QCOMPARE(row.size(), bytes);
-    QCOMPARE(label->text(), CleanupRowWidget::formatSize(bytes));
-    QVERIFY2(
-        label->styleSheet().contains(QStringLiteral("color:%1;").arg(textColour)), qPrintable(label->styleSheet()));
-    QVERIFY2(bar->styleSheet().contains(QStringLiteral("::chunk { background:%1;").arg(barColour)),
-        qPrintable(bar->styleSheet()));
-    QCOMPARE(bar->value(), barValue);
+    QCOMPARE(label->text(), text);
+    QVERIFY2(label->styleSheet().contains("color:" + colour.section('/', 0, 0) + ';'), qPrintable(label->styleSheet()));
+    QVERIFY2(progress->styleSheet().contains("::chunk { background:" + colour.section('/', 1) + ';'),
+        qPrintable(progress->styleSheet()));
+    QCOMPARE(progress->value(), bar);
 }
 
 void tst_CleanupRowWidget::pressTogglesAndPaints()
 {
-    CleanupRowWidget row(category(false));
+    CleanupRowWidget row({ "prefetch", "Prefetch", "⚡", { "C:/Windows/Prefetch" }, 0, false });
     row.resize(600, 64);
-    auto* path = row.findChild<QLabel*>(QStringLiteral("CleanupRowPath"));
-    QVERIFY(path);
-    QCOMPARE(path->text(), QStringLiteral("C:/Windows/Prefetch"));
-
+    const auto pixel = [&](QPoint at) { return row.grab().toImage().pixelColor(at); };
     const QPoint box(row.width() - 30 + 8, row.height() / 2); // centre of the painted check box
     const QPoint inside(row.width() - 60, 4); // clear of the children, inside the rounded frame
-    QCOMPARE(pixel(row, inside), QColor(Qt::white));
-    QCOMPARE(pixel(row, box), QColor(Qt::white));
+    QCOMPARE(pixel(inside), QColor(Qt::white));
+    QCOMPARE(pixel(box), QColor(Qt::white));
 
     QSignalSpy changed(&row, &CleanupRowWidget::selectionChanged);
     QTest::mouseClick(&row, Qt::LeftButton, {}, QPoint(20, 20)); // anywhere on the row
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.at(0).at(0).toBool(), true);
     QVERIFY(row.isSelected());
-    QCOMPARE(pixel(row, inside), QColor(0xef, 0xf6, 0xff));
-    QCOMPARE(pixel(row, box + QPoint(-5, -5)), QColor(0x3b, 0x82, 0xf6));
+    QCOMPARE(pixel(inside), QColor(0xef, 0xf6, 0xff));
+    QCOMPARE(pixel(box + QPoint(-5, -5)), QColor(0x3b, 0x82, 0xf6));
 
     QTest::mouseClick(&row, Qt::LeftButton, {}, QPoint(300, 50));
     QCOMPARE(changed.count(), 2);
