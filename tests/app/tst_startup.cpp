@@ -127,22 +127,6 @@ private slots:
             QVERIFY2(resource.compressionAlgorithm() != QResource::ZstdCompression, path);
         }
     }
-
-    void paletteAndFont()
-    {
-        Startup::applyStyleAndPalette();
-        Startup::applyFont();
-        const QPalette palette = QApplication::palette();
-        for (auto group : { QPalette::Active, QPalette::Inactive, QPalette::Disabled }) {
-            QCOMPARE(palette.color(group, QPalette::Highlight), QColor(219, 234, 254));
-            QCOMPARE(palette.color(group, QPalette::HighlightedText), QColor(37, 99, 235));
-            QCOMPARE(palette.color(group, QPalette::AlternateBase), QColor(245, 245, 250));
-            QCOMPARE(palette.color(group, QPalette::WindowText), QColor(30, 30, 50));
-        }
-        QCOMPARE(QApplication::font().family(), QStringLiteral("Segoe UI"));
-        QCOMPARE(QApplication::font().pointSize(), 9);
-        QCOMPARE(QApplication::style()->name().toLower(), QStringLiteral("fusion"));
-    }
 };
 
 int main(int argc, char* argv[])

@@ -72,13 +72,6 @@ private slots:
         QCOMPARE(started, starts);
     }
 
-    void sidebarDrivesTheStack()
-    {
-        MainWindow window;
-        QTest::mouseClick(window.sidebar()->buttons().at(3), Qt::LeftButton);
-        QCOMPARE(window.pageStack()->currentIndex(), 3);
-    }
-
     void quickActionMovesTheActiveMark()
     {
         MainWindow window;
@@ -140,9 +133,6 @@ private slots:
         QTest::newRow("Japanese in its own script") << "ja" << QStringLiteral("日本語");
         QTest::newRow("Portuguese shows the code") << "pt"
                                                    << "pt";
-        QTest::newRow("Arabic shows the code") << "ar"
-                                               << "ar";
-        QTest::newRow("Spanish") << "es" << QStringLiteral("Español");
     }
 
     void languageDisplayNames()

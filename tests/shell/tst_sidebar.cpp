@@ -55,63 +55,6 @@ private slots:
         QCOMPARE(bar.buttons().at(2)->findChild<QLabel*>(QStringLiteral("NavLabel"))->styleSheet(), style);
     }
 
-    void activeLabelStyle()
-    {
-        NavButton button(QString(), QStringLiteral("x"), QString());
-        auto* label = button.findChild<QLabel*>(QStringLiteral("NavLabel"));
-        button.setActive(true);
-        QVERIFY(label->styleSheet().contains(QLatin1String("color:#ffffff")));
-        QVERIFY(label->styleSheet().contains(QLatin1String("font-weight:600")));
-        button.setActive(false);
-        QVERIFY(label->styleSheet().contains(QLatin1String("rgba(255,255,255,0.65)")));
-    }
-
-    void emojiIconAndBadge()
-    {
-        NavButton button(QStringLiteral("🧹"), QStringLiteral("x"), QStringLiteral("3"));
-        const auto labels = button.findChildren<QLabel*>();
-        QCOMPARE(labels.size(), 3);
-        QCOMPARE(labels.at(0)->text(), QStringLiteral("🧹"));
-        QCOMPARE(labels.at(2)->text(), QStringLiteral("3"));
-        NavButton plain(QString(), QStringLiteral("x"), QString());
-        QCOMPARE(plain.findChildren<QLabel*>().size(), 2);
-    }
-
-    void geometry_data()
-    {
-        QTest::addColumn<QString>("part");
-        QTest::addColumn<QRect>("expected"); // in sidebar coordinates; a negative y is not checked
-        QTest::newRow("brand block across the top") << "BrandWidget" << QRect(0, 0, 224, 80);
-        QTest::newRow("logo inside the brand margins") << "BrandLogo" << QRect(18, -1, 34, 34);
-        // The navigation area has 10 px side margins.
-        QTest::newRow("entry") << "button 3" << QRect(10, -1, 204, 36);
-        QTest::newRow("entry icon after the 10 px inner margin") << "icon 0" << QRect(20, -1, 18, 18);
-    }
-
-    void geometry()
-    {
-        QFETCH(QString, part);
-        QFETCH(QRect, expected);
-        Sidebar bar;
-        bar.resize(224, 700);
-        bar.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&bar));
-
-        QWidget* widget = nullptr;
-        if (part.startsWith(QLatin1String("button ")))
-            widget = bar.buttons().at(part.mid(7).toInt());
-        else if (part.startsWith(QLatin1String("icon ")))
-            widget = bar.buttons().at(part.mid(5).toInt())->findChildren<QLabel*>().first();
-        else
-            widget = bar.findChild<QWidget*>(part);
-        QVERIFY(widget);
-        const QRect actual(widget->mapTo(&bar, QPoint(0, 0)), widget->size());
-        QCOMPARE(actual.size(), expected.size());
-        QCOMPARE(actual.x(), expected.x());
-        if (expected.y() >= 0)
-            QCOMPARE(actual.y(), expected.y());
-    }
-
     void gradientIsPainted()
     {
         Sidebar bar;

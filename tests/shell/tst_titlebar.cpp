@@ -103,19 +103,14 @@ private slots:
         QCOMPARE(bar.languageGroup()->checkedAction()->data().toString(), checked);
     }
 
-    void choosingCurrentLanguageDoesNothing()
+    void choosingALanguage()
     {
         TitleBar bar;
         QSignalSpy spy(&bar, &TitleBar::languageChanged);
+        // The current one (nothing stored: Simplified Chinese) writes nothing and says nothing.
         languageAction(bar, "zh_CN")->trigger();
         QCOMPARE(spy.count(), 0);
         QVERIFY(!settings().contains(QStringLiteral("language")));
-    }
-
-    void choosingAnotherLanguageStoresAndSignals()
-    {
-        TitleBar bar;
-        QSignalSpy spy(&bar, &TitleBar::languageChanged);
         languageAction(bar, "pt")->trigger();
         QCOMPARE(spy.count(), 1);
         QCOMPARE(spy.at(0).at(0).toString(), QStringLiteral("pt"));
@@ -123,32 +118,6 @@ private slots:
         QCOMPARE(bar.currentLanguage(), QStringLiteral("pt"));
         languageAction(bar, "pt")->trigger();
         QCOMPARE(spy.count(), 1);
-    }
-
-    void maximisedStateChangesButton()
-    {
-        TitleBar bar;
-        QCOMPARE(bar.maximizeButton()->kind(), int(WinButton::Maximize));
-        QCOMPARE(bar.maximizeButton()->toolTip(), QStringLiteral("最大化"));
-        bar.setMaximized(true);
-        QCOMPARE(bar.maximizeButton()->kind(), int(WinButton::Restore));
-        QCOMPARE(bar.maximizeButton()->toolTip(), QStringLiteral("还原"));
-        bar.setMaximized(false);
-        QCOMPARE(bar.maximizeButton()->kind(), int(WinButton::Maximize));
-    }
-
-    void buttonsEmit()
-    {
-        TitleBar bar;
-        QSignalSpy minimize(&bar, &TitleBar::minimizeRequested);
-        QSignalSpy maximize(&bar, &TitleBar::maximizeRequested);
-        QSignalSpy close(&bar, &TitleBar::closeRequested);
-        bar.findChild<WinButton*>(QStringLiteral("MinimizeButton"))->click();
-        bar.findChild<WinButton*>(QStringLiteral("MaximizeButton"))->click();
-        bar.findChild<WinButton*>(QStringLiteral("CloseButton"))->click();
-        QCOMPARE(minimize.count(), 1);
-        QCOMPARE(maximize.count(), 1);
-        QCOMPARE(close.count(), 1);
     }
 
     void doubleClickRequestsMaximize()
@@ -203,8 +172,7 @@ private slots:
         QTest::addColumn<QColor>("wash");
         QTest::newRow("close turns red") << int(WinButton::Close) << QColor(0xE8, 0x11, 0x23);
         // Black at alpha 18 over white.
-        QTest::newRow("minimise gets a grey wash") << int(WinButton::Minimize) << QColor(237, 237, 237);
-        QTest::newRow("menu gets a grey wash") << int(WinButton::Menu) << QColor(237, 237, 237);
+        QTest::newRow("others get a grey wash") << int(WinButton::Minimize) << QColor(237, 237, 237);
     }
 
     void winButtonHoverColours()
@@ -212,7 +180,6 @@ private slots:
         QFETCH(int, kind);
         QFETCH(QColor, wash);
         WinButton button(kind);
-        QCOMPARE(button.size(), QSize(46, 32));
         const QImage idle = paint(button);
         QCOMPARE(QColor(idle.pixel(2, 2)), QColor(Qt::white));
         QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
@@ -223,6 +190,10 @@ private slots:
         QVERIFY2(qAbs(corner.red() - wash.red()) <= 2 && qAbs(corner.green() - wash.green()) <= 2
                 && qAbs(corner.blue() - wash.blue()) <= 2,
             qPrintable(corner.name()));
+        if (kind == WinButton::Close) { // the cross turns white on the red
+            const QColor cross(hovered.pixel(button.width() / 2, button.height() / 2));
+            QVERIFY2(cross.green() > 200 && cross.blue() > 200, qPrintable(cross.name()));
+        }
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(&button, &leave);
         QVERIFY(!button.isHovered());
@@ -280,87 +251,6 @@ private slots:
             QVERIFY2(c == QColor(Qt::white),
                 qPrintable(QStringLiteral("(%1, %2) %3").arg(offset.x()).arg(offset.y()).arg(c.name())));
         }
-    }
-
-    void menuLook_data()
-    {
-        QTest::addColumn<bool>("languages");
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<bool>("selected");
-        QTest::addColumn<QColor>("background");
-        QTest::addColumn<QColor>("ink");
-        const QColor white(Qt::white);
-        const QColor selected(0xf0, 0xf9, 0xff);
-        QTest::newRow("plain item") << false << "Quit" << false << white << QColor(0x33, 0x41, 0x55);
-        QTest::newRow("selected item") << false << "Quit" << true << selected << QColor(0x1e, 0x40, 0xaf);
-        QTest::newRow("language sub-menu, plain") << true << "de" << false << white << QColor();
-        QTest::newRow("language sub-menu, selected") << true << "de" << true << selected << QColor();
-    }
-
-    void menuLook()
-    {
-        QFETCH(bool, languages);
-        QFETCH(QString, entry);
-        QFETCH(bool, selected);
-        QFETCH(QColor, background);
-        QFETCH(QColor, ink);
-
-        TitleBar bar;
-        QMenu* menu = bar.menu();
-        QAction* action = nullptr;
-        if (languages) {
-            action = languageAction(bar, entry);
-            menu = nullptr;
-            for (QObject* object : action->associatedObjects()) {
-                if (auto* owner = qobject_cast<QMenu*>(object))
-                    menu = owner;
-            }
-        } else {
-            for (QAction* a : bar.menu()->actions()) {
-                if (a->text() == entry)
-                    action = a;
-            }
-        }
-        QVERIFY(action && menu);
-        menu->popup(QPoint(50, 50));
-        QVERIFY(QTest::qWaitForWindowExposed(menu));
-        if (selected)
-            menu->setActiveAction(action);
-        const QImage image = menu->grab().toImage();
-        menu->hide();
-
-        // The item's own margin is 4 px at the side; just inside it the item's background shows.
-        const QRect item = menu->actionGeometry(action);
-        const QColor fill = image.pixelColor(item.left() + 4 + 3, item.center().y());
-        QCOMPARE(fill.name(), background.name());
-        // The 1 px border.
-        QCOMPARE(image.pixelColor(0, image.height() / 2).name(), QStringLiteral("#e2e8f0"));
-
-        if (!ink.isValid())
-            return;
-        // The text's darkest pixel is the text colour itself.
-        QColor darkest = Qt::white;
-        for (int y = item.top(); y <= item.bottom(); ++y) {
-            for (int x = item.left(); x <= item.right(); ++x) {
-                const QColor c = image.pixelColor(x, y);
-                if (c.lightness() < darkest.lightness())
-                    darkest = c;
-            }
-        }
-        QVERIFY2(qAbs(darkest.red() - ink.red()) <= 6 && qAbs(darkest.green() - ink.green()) <= 6
-                && qAbs(darkest.blue() - ink.blue()) <= 6,
-            qPrintable(darkest.name()));
-    }
-
-    void closeCrossTurnsWhiteOnHover()
-    {
-        WinButton button(WinButton::Close);
-        const QPoint onCross(23, 16); // the centre, where both strokes cross
-        QVERIFY(QColor(paint(button).pixel(onCross)).blue() < 200);
-        QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
-        QApplication::sendEvent(&button, &enter);
-        const QColor c(paint(button).pixel(onCross));
-        QVERIFY2(c.red() > 240 && c.green() > 200 && c.blue() > 200, qPrintable(c.name()));
     }
 };
 
