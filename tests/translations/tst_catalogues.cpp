@@ -12,23 +12,17 @@ class tst_Catalogues : public QObject {
     Q_OBJECT
 
 private slots:
-    void everyLanguageIsCarried_data();
     void everyLanguageIsCarried();
     void translates_data();
     void translates();
 };
 
-void tst_Catalogues::everyLanguageIsCarried_data()
-{
-    QTest::addColumn<QString>("code");
-    for (const char* code : { "zh_CN", "zh_TW", "en", "fr", "de", "ja", "es", "ko", "nl", "pt", "it", "ar", "tr" })
-        QTest::newRow(code) << QString::fromLatin1(code);
-}
-
 void tst_Catalogues::everyLanguageIsCarried()
 {
-    QFETCH(QString, code);
-    QVERIFY2(QFile::exists(qmPath(code)), qPrintable(qmPath(code)));
+    for (const char* code : { "zh_CN", "zh_TW", "en", "fr", "de", "ja", "es", "ko", "nl", "pt", "it", "ar", "tr" }) {
+        QTranslator translator;
+        QVERIFY2(translator.load(qmPath(QString::fromLatin1(code))), code);
+    }
 }
 
 void tst_Catalogues::translates_data()
@@ -43,10 +37,9 @@ void tst_Catalogues::translates_data()
     QTest::newRow("zh_CN: English-source menu text") << "zh_CN"
                                                      << "TitleBar"
                                                      << "Quit" << QString::fromUtf8("退出");
-    // Where the source is already the language, nothing is translated and the source shows.
+    // An empty answer lets the source show, which for Chinese sources in zh_CN is what is wanted.
     QTest::newRow("zh_CN: Chinese source stays") << "zh_CN"
                                                  << "Sidebar" << QString::fromUtf8("系统概览") << QString();
-    // The title bar's English source texts have English catalogue texts of their own.
     QTest::newRow("en: English source with its own English text") << "en"
                                                                   << "TitleBar"
                                                                   << "Quit"
