@@ -24,10 +24,11 @@ public:
     // "C:/..." as the sandbox places it; "L:" and "R:" stand for Local and Roaming AppData.
     QString machine(const QString& path) const
     {
-        if (path.startsWith(QLatin1String("L:")) || path.startsWith(QLatin1String("R:")))
-            return env(path.startsWith(QLatin1Char('L')) ? L"LOCALAPPDATA" : L"APPDATA") + QLatin1Char('/')
-                + path.mid(2);
-        return QString::fromStdWString(m_platform.environment().mapPath(path.toStdWString()));
+        platform::Environment& env = m_platform.environment();
+        if (!path.startsWith(QLatin1String("L:")) && !path.startsWith(QLatin1String("R:")))
+            return QString::fromStdWString(env.mapPath(path.toStdWString()));
+        const auto base = env.variable(path.startsWith(QLatin1Char('L')) ? L"LOCALAPPDATA" : L"APPDATA");
+        return QString::fromStdWString(base.value_or(L"")) + QLatin1Char('/') + path.mid(2);
     }
 
     // A sparse file has the length but takes no disk space: sizes come from metadata only.
@@ -40,11 +41,6 @@ public:
     }
 
 private:
-    QString env(const wchar_t* name) const
-    {
-        return QString::fromStdWString(m_platform.environment().variable(name).value_or(std::wstring()));
-    }
-
     QTemporaryDir m_dir;
     mutable platform::SandboxPlatform m_platform;
 };
