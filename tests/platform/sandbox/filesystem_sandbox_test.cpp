@@ -5,14 +5,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <random>
 #include <string>
 #include <sys/mount.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -20,15 +17,7 @@ namespace {
 
 class SandboxFileSystemTest : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        std::random_device random;
-        m_base = fs::temp_directory_path() / ("norvale-sfs-" + std::to_string(random()));
-        fs::create_directories(m_base / "sandbox");
-        fs::create_directories(m_base / "outside");
-        m_fs = std::make_unique<platform::SandboxFileSystem>((m_base / "sandbox").wstring());
-    }
-
+    void SetUp() override { fs::create_directories(m_base / "sandbox/junk"); }
     void TearDown() override
     {
         std::error_code ignored;
@@ -36,18 +25,15 @@ protected:
     }
 
     std::wstring path(const std::string& relative) const { return (m_base / relative).wstring(); }
-
+    bool exists(const std::string& relative) const { return fs::exists(fs::symlink_status(m_base / relative)); }
     void write(const std::string& relative, std::size_t bytes) const
     {
-        const fs::path file = m_base / relative;
-        fs::create_directories(file.parent_path());
-        std::ofstream(file, std::ios::binary) << std::string(bytes, 'x');
+        fs::create_directories((m_base / relative).parent_path());
+        std::ofstream(m_base / relative, std::ios::binary) << std::string(bytes, 'x');
     }
 
-    bool exists(const std::string& relative) const { return fs::exists(fs::symlink_status(m_base / relative)); }
-
-    fs::path m_base;
-    std::unique_ptr<platform::SandboxFileSystem> m_fs;
+    const fs::path m_base = fs::temp_directory_path() / ("norvale-sfs-" + std::to_string(std::random_device()()));
+    platform::SandboxFileSystem m_fs { (m_base / "sandbox").wstring() };
 };
 
 TEST_F(SandboxFileSystemTest, ALinkedFolderIsNeitherMeasuredNorEnteredButRemovedAsALink)
@@ -57,13 +43,9 @@ TEST_F(SandboxFileSystemTest, ALinkedFolderIsNeitherMeasuredNorEnteredButRemoved
     fs::create_directory_symlink(m_base / "outside/precious", m_base / "sandbox/junk/link");
     fs::create_symlink(m_base / "outside/precious/keep.doc", m_base / "sandbox/junk/file-link");
 
-    EXPECT_EQ(m_fs->folderSize(path("sandbox/junk")), 10);
-
-    const platform::EmptyFolderResult result = m_fs->emptyFolder(path("sandbox/junk"));
-    EXPECT_EQ(result.failed, 0u);
-    EXPECT_FALSE(exists("sandbox/junk/link"));
-    EXPECT_FALSE(exists("sandbox/junk/file-link"));
-    EXPECT_TRUE(exists("outside/precious/keep.doc"));
+    EXPECT_EQ(m_fs.folderSize(path("sandbox/junk")), 10);
+    EXPECT_EQ(m_fs.emptyFolder(path("sandbox/junk")).failed, 0u);
+    EXPECT_TRUE(fs::is_empty(m_base / "sandbox/junk")); // the links are gone too
     EXPECT_EQ(fs::file_size(m_base / "outside/precious/keep.doc"), 5000u);
 }
 
@@ -81,13 +63,13 @@ TEST_F(SandboxFileSystemTest, NothingOutsideTheRootIsReached)
     };
     for (const std::string& p : refused) {
         SCOPED_TRACE(p);
-        EXPECT_FALSE(m_fs->isFolder(path(p)));
-        EXPECT_EQ(m_fs->folderSize(path(p)), 0);
-        EXPECT_FALSE(m_fs->emptyFolder(path(p)).opened);
-        EXPECT_FALSE(m_fs->subFolders(path(p)).has_value());
+        EXPECT_FALSE(m_fs.isFolder(path(p)));
+        EXPECT_EQ(m_fs.folderSize(path(p)), 0);
+        EXPECT_FALSE(m_fs.emptyFolder(path(p)).opened);
+        EXPECT_FALSE(m_fs.subFolders(path(p)).has_value());
     }
     EXPECT_TRUE(exists("outside/keep.doc"));
-    EXPECT_EQ(m_fs->folderSize(path("sandbox")), 1);
+    EXPECT_EQ(m_fs.folderSize(path("sandbox")), 1);
 }
 
 // A mount inside a category folder stands for another volume: on Windows that is a reparse point
@@ -95,14 +77,14 @@ TEST_F(SandboxFileSystemTest, NothingOutsideTheRootIsReached)
 TEST_F(SandboxFileSystemTest, AMountPointIsNeitherEnteredNorRemoved)
 {
     write("sandbox/junk/a.tmp", 1);
-    fs::create_directories(m_base / "sandbox/junk/mounted");
     const std::string target = (m_base / "sandbox/junk/mounted").string();
+    fs::create_directories(target);
     if (::mount("tmpfs", target.c_str(), "tmpfs", 0, "size=1m") != 0)
-        GTEST_SKIP() << "cannot mount here (needs CAP_SYS_ADMIN): " << std::strerror(errno);
+        GTEST_SKIP() << "cannot mount a tmpfs here (needs CAP_SYS_ADMIN)";
     write("sandbox/junk/mounted/on-other-volume.doc", 200);
 
-    EXPECT_EQ(m_fs->folderSize(path("sandbox/junk")), 1);
-    const platform::EmptyFolderResult result = m_fs->emptyFolder(path("sandbox/junk"));
+    EXPECT_EQ(m_fs.folderSize(path("sandbox/junk")), 1);
+    const platform::EmptyFolderResult result = m_fs.emptyFolder(path("sandbox/junk"));
     const bool kept = exists("sandbox/junk/mounted/on-other-volume.doc");
     ::umount(target.c_str());
     EXPECT_TRUE(kept);
