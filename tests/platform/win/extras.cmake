@@ -6,8 +6,7 @@ if(NORVALE_WIXL)
     add_custom_command(OUTPUT ${uninstall_sample_msi}
         COMMAND ${NORVALE_WIXL} -a x64 -o ${uninstall_sample_msi} uninstall_sample.wxs
         WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/win
-        DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/win/uninstall_sample.wxs
-        COMMENT "Building the sample MSI with wixl")
+        DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/win/uninstall_sample.wxs)
     add_custom_target(uninstall_sample_msi DEPENDS ${uninstall_sample_msi})
     add_dependencies(${platform_test_target} uninstall_sample_msi)
     target_compile_definitions(${platform_test_target} PRIVATE "NORVALE_SAMPLE_MSI=\"Z:${uninstall_sample_msi}\"")

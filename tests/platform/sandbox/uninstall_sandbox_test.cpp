@@ -1,0 +1,97 @@
+// The sandbox plays uninstallers and finds icons beside programs, and never reaches past its drive.
+
+#include "platform/registry.h"
+#include "platform/sandbox/sandboxiconextractor.h"
+#include "platform/sandbox/sandboxlauncher.h"
+#include "platform/sandbox/sandboxregistry.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class SandboxUninstallTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::string pattern = (fs::temp_directory_path() / "norvale-sbuninstall-XXXXXX").string();
+        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+        m_base = pattern;
+        m_root = m_base / "sandbox";
+        fs::create_directories(m_root / "C" / "Tool");
+        fs::create_directories(m_base / "outside");
+        put(m_base / "outside" / "keep.png", "secret");
+        fs::create_directory_symlink(m_base / "outside", m_root / "C" / "Tool" / "link");
+        put(m_root / "C" / "Tool" / "tool.exe", "MZ");
+    }
+    void TearDown() override
+    {
+        std::error_code ignored;
+        fs::remove_all(m_base, ignored);
+    }
+
+    static void put(const fs::path& file, const std::string& text) { std::ofstream(file) << text; }
+    platform::ShellExecuteResult run(const std::wstring& file, const std::wstring& parameters = L"/S")
+    {
+        platform::SandboxLauncher launcher(m_root.wstring(), &m_registry);
+        return launcher.shellExecuteAndWait({ L"open", file, parameters, L"", platform::ShowNormal, {} }, 1000);
+    }
+    std::string icon(const std::wstring& path)
+    {
+        const auto encoded = platform::SandboxIconExtractor(m_root.wstring()).extract(path, 0).image.encoded;
+        return std::string(encoded.begin(), encoded.end());
+    }
+
+    fs::path m_base, m_root;
+    platform::SandboxRegistry m_registry;
+};
+
+TEST_F(SandboxUninstallTest, NothingOutsideTheDriveIsRunDeletedOrRead)
+{
+    put(m_base / "outside" / "evil.exe", "MZ");
+    put(m_base / "outside" / "evil.exe.demo-uninstall", "exit=0\n");
+    for (const fs::path& p : { m_base / "outside" / "evil.exe", m_root / "C" / ".." / ".." / "outside" / "evil.exe" })
+        EXPECT_EQ(run(p.wstring()).error, 2u) << p;
+    EXPECT_FALSE(run(L"").started);
+    EXPECT_FALSE(run(L"C:\\Tool").started); // a folder is no program
+    EXPECT_EQ(run(L"C:\\Tool\\tool.exe").error, 1260u); // a program without a description
+    put(m_root / "C" / "Tool" / "tool.exe.demo-uninstall",
+        "delete=C:\\Tool\\link\\keep.png\ndelete=C:\\..\\..\\outside\ndelete=C:\\\ndelete="
+            + (m_base / "outside").string() + "\ndelete=C:\\Tool\\link\nexit=banana\n");
+    EXPECT_EQ(run(L"C:\\Tool\\tool.exe").exitCode, 0u); // an unreadable code leaves the default
+    EXPECT_TRUE(fs::exists(m_base / "outside" / "keep.png"));
+    EXPECT_TRUE(fs::exists(m_root / "C" / "Tool" / "tool.exe"));
+    EXPECT_FALSE(fs::exists(fs::symlink_status(m_root / "C" / "Tool" / "link"))); // the link itself went
+    fs::create_directory_symlink(m_base / "outside", m_root / "C" / "Tool" / "link2");
+    fs::create_symlink(m_base / "outside" / "keep.png", m_root / "C" / "Tool" / "tool.exe.png");
+    EXPECT_EQ(icon((m_base / "outside" / "keep.png").wstring()), "");
+    EXPECT_EQ(icon(L"C:\\Tool\\link2\\keep.png"), "");
+    EXPECT_EQ(icon(L"C:\\Tool\\tool.exe"), "");
+    EXPECT_EQ(icon(L"C:\\..\\..\\outside\\keep.png"), "");
+    put(m_root / "C" / "Tool" / "big.png", "");
+    fs::resize_file(m_root / "C" / "Tool" / "big.png", 5 * 1024 * 1024);
+    EXPECT_EQ(icon(L"C:\\Tool\\big.png"), "");
+}
+
+TEST_F(SandboxUninstallTest, WindowsInstallerProductsAndUnregistering)
+{
+    const std::wstring key = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\{ABC0}";
+    m_registry.setString(platform::Hive::LocalMachine, key, L"DisplayName", L"Tool");
+    fs::create_directories(m_root / "C" / "Windows" / "Installer");
+    put(m_root / "C" / "Windows" / "Installer" / "{ABC0}.demo-uninstall",
+        "exit=1641\nunregister=HKEY_LOCAL_MACHINE\\" + std::string(key.begin(), key.end()) + "\nunregister=HKLM\n");
+    EXPECT_EQ(run(L"C:\\Windows\\System32\\msiexec.exe", L"/x {ABC0}").exitCode, 1641u);
+    EXPECT_FALSE(m_registry.keyExists(platform::Hive::LocalMachine, key));
+    EXPECT_TRUE(m_registry.keyExists(platform::Hive::LocalMachine, L"SOFTWARE\\Microsoft"));
+    EXPECT_EQ(run(L"msiexec", L"/X{DEF}").exitCode, 1605u);
+    EXPECT_EQ(run(L"msiexec.exe", L"/quiet").exitCode, 1639u);
+    put(m_base / "outside" / "{}.demo-uninstall", "exit=0\n");
+    EXPECT_EQ(run(L"msiexec.exe", L"/X{/../../../../outside/}").exitCode, 1605u);
+}
+
+} // namespace
