@@ -16,15 +16,6 @@ void captureMessages(QtMsgType, const QMessageLogContext&, const QString& messag
     g_log.append(message);
 }
 
-bool logged(const QString& prefix)
-{
-    for (const QString& line : std::as_const(g_log)) {
-        if (line.startsWith(prefix))
-            return true;
-    }
-    return false;
-}
-
 } // namespace
 
 class tst_Startup : public QObject {
@@ -39,39 +30,6 @@ private slots:
     }
     void cleanup() { qInstallMessageHandler(nullptr); }
 
-    void chooseTranslationCode_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<bool>("asksSystem");
-        QTest::newRow("Hong Kong gets Traditional Chinese") << ""
-                                                            << "zh_HK"
-                                                            << "zh_TW" << true;
-        // The locale table itself is the link catalogue's and is tested there; these rows prove
-        // start-up goes through it only when nothing is stored.
-        QTest::newRow("Russian has no catalogue: English") << ""
-                                                           << "ru_RU"
-                                                           << "en" << true;
-        QTest::newRow("stored French beats a German system") << "fr"
-                                                             << "de_DE"
-                                                             << "fr" << false;
-        QTest::newRow("stored code without catalogue taken as it is") << "xx"
-                                                                      << "de_DE"
-                                                                      << "xx" << false;
-    }
-
-    void chooseTranslationCode()
-    {
-        QFETCH(QString, stored);
-        QFETCH(QString, locale);
-        QFETCH(QString, code);
-        QFETCH(bool, asksSystem);
-        QCOMPARE(Startup::chooseTranslationCode(stored, locale), code);
-        QCOMPARE(logged(QStringLiteral("[Main] System language:")), asksSystem);
-    }
-
-    // The whole block of lines, in order: support reads it to tell which catalogue a user got.
     void translationLog_data()
     {
         QTest::addColumn<QString>("stored");

@@ -65,21 +65,6 @@ private slots:
         QCOMPARE(texts, expected);
     }
 
-    void languageEntriesInOrder()
-    {
-        TitleBar bar;
-        QStringList codes;
-        const auto actions = bar.languageGroup()->actions();
-        for (QAction* a : actions) {
-            QVERIFY(a->isCheckable());
-            codes << a->data().toString();
-        }
-        QCOMPARE(
-            codes, QStringList({ "zh_CN", "zh_TW", "en", "ja", "ko", "fr", "de", "es", "pt", "it", "nl", "ar", "tr" }));
-        QVERIFY(bar.languageGroup()->isExclusive());
-        QCOMPARE(languageAction(bar, "ar")->text(), QStringLiteral("🇸🇦  عربية"));
-    }
-
     void checkedLanguage_data()
     {
         QTest::addColumn<QString>("stored");
@@ -87,8 +72,6 @@ private slots:
         QTest::newRow("nothing stored marks Simplified Chinese") << QString() << "zh_CN";
         QTest::newRow("stored German") << "de"
                                        << "de";
-        QTest::newRow("stored Turkish") << "tr"
-                                        << "tr";
     }
 
     void checkedLanguage()
@@ -209,13 +192,6 @@ private slots:
         QTest::newRow("menu: three bars four apart")
             << int(WinButton::Menu) << QList<QPoint> { { -5, -4 }, { 0, -4 }, { 0, 0 }, { 5, 0 }, { -5, 4 } }
             << QList<QPoint> { { 0, -2 }, { 0, 2 }, { -9, 0 }, { 9, 0 }, { 0, 7 } };
-        QTest::newRow("minimise: one bar ten wide")
-            << int(WinButton::Minimize) << QList<QPoint> { { -4, 0 }, { 0, 0 }, { 4, 0 } }
-            << QList<QPoint> { { 0, -4 }, { 0, 4 }, { -8, 0 }, { 8, 0 } };
-        QTest::newRow("maximise: a ten-pixel square")
-            << int(WinButton::Maximize)
-            << QList<QPoint> { { 0, -5 }, { -3, -5 }, { -5, 0 }, { 5, 0 }, { 5, 3 }, { 0, 5 }, { 3, 5 } }
-            << QList<QPoint> { { 0, 0 }, { -2, 2 }, { 0, -8 }, { 8, 0 } };
         // Where the back window's edges pass behind the front window they are covered.
         QTest::newRow("restore: front window hides the back one")
             << int(WinButton::Restore)
