@@ -1,7 +1,6 @@
 // Norvale's start-up, step for step as the program runs it, ending at the main window's first show.
 #include "app/startup.h"
 #include "firstshow.h"
-#include "links/linkmanager.h"
 #include "shell/mainwindow.h"
 
 #include <QApplication>
@@ -10,11 +9,7 @@ int main(int argc, char* argv[])
 {
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication app(argc, argv);
-    Startup::applyIdentity();
-    Startup::applyStyleAndPalette();
-    Startup::applyFont();
-    LinkManager::instance()->setLanguage(Startup::setUpTranslation());
-    Startup::applyStyleSheet();
+    Startup::prepareApplication();
 
     MainWindow window(nullptr);
     FirstShowProbe probe;

@@ -98,4 +98,13 @@ void applyStyleSheet(const QString& path)
     file.close();
 }
 
+void prepareApplication()
+{
+    applyIdentity();
+    applyStyleAndPalette();
+    applyFont();
+    LinkManager::instance()->setLanguage(setUpTranslation());
+    applyStyleSheet();
+}
+
 } // namespace Startup

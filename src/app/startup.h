@@ -25,4 +25,9 @@ QString setUpTranslation();
 // A style sheet that cannot be opened is ignored: Fusion and the palette still give a usable look.
 void applyStyleSheet(const QString& path = QString::fromLatin1(StyleSheetPath));
 
+// Everything between creating the application object and creating the main window, in order:
+// identity, style and palette, font, catalogue, the link catalogue's language, style sheet.
+// The program, the screenshot tool and the start-up benchmark all start the same way.
+void prepareApplication();
+
 } // namespace Startup

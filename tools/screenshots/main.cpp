@@ -3,7 +3,6 @@
 // Usage: norvale-screenshots <output-folder>
 
 #include "app/startup.h"
-#include "links/linkmanager.h"
 #include "shell/mainwindow.h"
 
 #include <QApplication>
@@ -40,11 +39,7 @@ int main(int argc, char* argv[])
     const QString outDir = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("screenshots");
     QDir().mkpath(outDir);
 
-    Startup::applyIdentity();
-    Startup::applyStyleAndPalette();
-    Startup::applyFont();
-    LinkManager::instance()->setLanguage(Startup::setUpTranslation());
-    Startup::applyStyleSheet();
+    Startup::prepareApplication();
 
     MainWindow window(nullptr);
     window.show();
