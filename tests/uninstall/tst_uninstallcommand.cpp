@@ -20,31 +20,21 @@ private slots:
             R"(C:\Program Files\Firefox\helper.exe)", { "/S" });
         row("quoted argument comes apart", R"("C:\Steam\uninstall.exe" /uninstall "My Game")",
             R"(C:\Steam\uninstall.exe)", { "/uninstall", "\"My", "Game\"" });
-        row("argument glued to the closing quote", R"("C:\App\unins000.exe"/SILENT)", R"(C:\App\unins000.exe)",
-            { "/SILENT" });
         row("unquoted path with spaces, upper case", R"(C:\Program Files\VLC\UNINSTALL.EXE /S  /NCRC)",
             R"(C:\Program Files\VLC\UNINSTALL.EXE)", { "/S", "/NCRC" });
         row("rundll32 click-once", "rundll32.exe dfshim.dll,ShArpMaintain Foo.application", "rundll32.exe",
             { "dfshim.dll,ShArpMaintain", "Foo.application" });
-        row("no extension, split at the space", R"(cmd /c rd /s C:\Foo)", "cmd", { "/c", "rd", "/s", R"(C:\Foo)" });
         row("unmatched quote falls through to .exe", R"("C:\Foo\uninst.exe /S)", R"("C:\Foo\uninst.exe)", { "/S" });
-        row("surrounding blanks", "  \t\"C:\\A\\u.exe\"  /x  ", R"(C:\A\u.exe)", { "/x" });
         row("empty quotes", R"("" /S)", "", {});
 
         const QString guid = "{23170F69-40C1-2702-2301-000001000000}";
         const QString msi = "MsiExec.exe /X" + guid;
         const QStringList silent { "/X" + guid, "/quiet", "/norestart" };
         row("msi gets both switches", msi, "msiexec.exe", silent, "Igor Pavlov", "7-Zip 23.01");
-        row("msiexec /I is kept", "MsiExec.exe /I" + guid, "msiexec.exe", { "/I" + guid, "/quiet", "/norestart" });
         row("msiexec full path, blanks, /qb is not silent", "C:\\Windows\\System32\\msiexec.exe  /x " + guid + "  /qb",
             "msiexec.exe", { "/x", guid, "/qb", "/quiet", "/norestart" });
-        row("quoted msiexec path", "\"C:\\Windows\\System32\\msiexec.exe\" /X" + guid,
-            "C:\\Windows\\System32\\msiexec.exe", silent);
         row("/QN already chosen", msi + " /QN", "msiexec.exe", { "/X" + guid, "/QN" });
-        row("/quiet inside a word does not count", msi + " /quieter", "msiexec.exe",
-            { "/X" + guid, "/quieter", "/quiet", "/norestart" });
         row("Autodesk publisher", msi, "msiexec.exe", { "/X" + guid }, "Autodesk, Inc.", "AutoCAD 2024");
-        row("Adobe in the name", msi, "msiexec.exe", { "/X" + guid }, "", "Adobe Acrobat Reader DC");
         row("Microsoft Office", msi, "msiexec.exe", { "/X" + guid }, "Microsoft Corporation", "Microsoft Office 2019");
         row("other Microsoft product", msi, "msiexec.exe", silent, "Microsoft Corporation", "Microsoft Teams");
     }
