@@ -24,8 +24,7 @@ namespace {
 constexpr qint64 MiB = 1024 * 1024;
 constexpr qint64 GiB = 1024 * MiB;
 
-// A machine in a temporary folder, made the process's platform for as long as it lives. Workers
-// read the platform on their pool thread, so it must outlive every scan and clean a test starts.
+// Workers read the platform on their pool thread, so it must outlive every scan and clean a test starts.
 class CleanupSandbox {
 public:
     CleanupSandbox()
@@ -47,12 +46,11 @@ public:
         return QString::fromStdWString(base.value_or(L"")) + QLatin1Char('/') + path.mid(2);
     }
 
-    // A sparse file has the length but takes no disk space: sizes come from metadata only.
+    // Sparse: sizes come from metadata only.
     static bool write(const QString& path, qint64 bytes, bool sparse = false)
     {
-        QDir().mkpath(QFileInfo(path).absolutePath());
         QFile file(path);
-        return file.open(QIODevice::WriteOnly)
+        return QDir().mkpath(QFileInfo(path).absolutePath()) && file.open(QIODevice::WriteOnly)
             && (sparse ? file.resize(bytes) : file.write(QByteArray(bytes, 'j')) == bytes);
     }
 
@@ -61,7 +59,7 @@ private:
     mutable platform::SandboxPlatform m_platform;
 };
 
-enum Category { WinTemp, WuCache, Chrome, Edge, Firefox, Logs, Prefetch, Dumps = 8 };
+enum Category { WuCache = 1, Chrome, Firefox = 4, Prefetch = 6, Dumps = 8 };
 
 QList<int> intsOf(const QSignalSpy& spy)
 {
@@ -95,269 +93,222 @@ class tst_Cleanup : public QObject {
     static QString text(QWidget& w, const char* name) { return w.findChild<QLabel*>(QLatin1String(name))->text(); }
     static QPushButton* button(QWidget& w, const char* name) { return w.findChild<QPushButton*>(QLatin1String(name)); }
     static bool progressShown(QWidget& w) { return !w.findChild<QProgressBar*>("CleanupProgress")->isHidden(); }
-    static QString sizeOf(QWidget& w, int i) { return text(*w.findChildren<CleanupRowWidget*>()[i], "CleanupRowSize"); }
 private slots:
-    void scanMeasuresEveryPlaceOnce();
-    void cacheDiscovery_data();
-    void cacheDiscovery();
-    void clean_data();
-    void clean();
-    void rowSizeAndColours_data();
-    void rowSizeAndColours();
-    void headerTotal_data();
-    void headerTotal();
-    void selectAllToggles();
-    void cleanRunsOnlyOnWhatIsSelected();
+
+    // Each place holds a different power of two, so every sum shows exactly which places were counted.
+    void scanMeasuresEveryPlaceOnce()
+    {
+        CleanupSandbox sandbox;
+        const QStringList places = { "C:/Windows/Temp/a", "L:Temp/nested/b",
+            "C:/Windows/SoftwareDistribution/Download/c", "L:Google/Chrome/User Data/Default/Cache/d",
+            "L:Microsoft/Edge/User Data/Default/Cache/e", "R:Mozilla/Firefox/Profiles/x.default/f",
+            "C:/Windows/Logs/CBS/g", "C:/Windows/Prefetch/h", "L:Microsoft/Windows/Explorer/i", "L:CrashDumps/j",
+            "C:/ProgramData/Microsoft/Windows/WER/ReportQueue/k", "C:/Windows/Minidump/l", "C:/$Recycle.Bin/S-1-5-21/m",
+            "C:/Windows.old/Windows/n",
+            // Listed under logs beside its folder, yet counted only by the temporary folder holding it.
+            "C:/Windows/Temp/MRT.log" };
+        const auto bit = [](int i) { return qint64(1) << (2 * i + 6); }; // past 4 GiB for the last two
+        for (int i = 0; i < places.size(); ++i)
+            QVERIFY(CleanupSandbox::write(sandbox.machine(places.at(i)), bit(i), true));
+        QVERIFY(CleanupSandbox::write(sandbox.outside("big.doc"), 1 << 20, true));
+        QVERIFY(QFile::link(sandbox.outside(""), sandbox.machine("C:/Windows/Temp/link-out")));
+
+        CleanupScanner scanner;
+        QSignalSpy progress(&scanner, &CleanupScanner::scanProgress);
+        QSignalSpy finished(&scanner, &CleanupScanner::scanFinished);
+        scanner.scan();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
+        QCOMPARE(intsOf(progress), QList<int>({ 9, 18, 27, 36, 45, 54, 63, 72, 81, 90, 100 }));
+        QList<qint64> sizes;
+        for (const JunkCategory& c : scanner.categories())
+            sizes << c.size;
+        QCOMPARE(sizes,
+            QList<qint64>({ bit(0) + bit(1) + bit(14), bit(2), bit(3), bit(4), bit(5), bit(6), bit(7), bit(8),
+                bit(9) + bit(10) + bit(11), bit(12), bit(13) }));
+    }
+
+    // Folders are made with "{0}" and "{1}" as "Default" and "Profile 1"; in the expected paths they
+    // stand for the profiles in the order the file system lists them.
+    void cacheDiscovery_data()
+    {
+        QTest::addColumn<int>("category");
+        QTest::addColumn<QStringList>("folders");
+        QTest::addColumn<QStringList>("expected");
+
+        const auto reversed = [](const QStringList& list) { return QStringList(list.rbegin(), list.rend()); };
+        const QString chrome = "L:Google/Chrome%1/User Data/%2/%3";
+        const QString ffR = "R:Mozilla/Firefox/Profiles/", ffL = "L:Mozilla/Firefox/Profiles/";
+        const QStringList chromes
+            = { chrome.arg("", "{0}", "Cache"), chrome.arg("", "{0}", "Code Cache"), chrome.arg("", "{1}", "Cache"),
+                  chrome.arg("", "{1}", "Code Cache"), chrome.arg(" Beta", "Default", "Cache"),
+                  chrome.arg(" Dev", "Default", "GPUCache"), chrome.arg(" SxS", "Default", "Cache") };
+        QTest::newRow("channels stable, Beta, Dev, SxS; profiles as listed")
+            << int(Chrome) << reversed(chromes) << chromes;
+        QStringList firefox;
+        for (const char* p : { "{0}/", "{1}/" })
+            firefox << ffR + p + "cache2" << ffR + p + "startupCache" << ffR + p + "shader-cache";
+        firefox << ffL + "{0}/cache2" << ffL + "{1}/cache2";
+        // A local profile without a roaming one is never looked at.
+        QTest::newRow("Firefox: roaming caches in name order, then the local ones")
+            << int(Firefox) << reversed(firefox) + QStringList { ffL + "lonely/cache2" } << firefox;
+    }
+
+    void cacheDiscovery()
+    {
+        QFETCH(int, category);
+        QFETCH(QStringList, folders);
+        QFETCH(QStringList, expected);
+        CleanupSandbox sandbox;
+        for (QString folder : folders)
+            QVERIFY(QDir().mkpath(sandbox.machine(folder.replace("{0}", "Default").replace("{1}", "Profile 1"))));
+        const QString first = expected.filter("{0}").value(0);
+        const QStringList profiles = first.isEmpty()
+            ? QStringList()
+            : QDir(sandbox.machine(first.left(first.indexOf("/{0}"))))
+                  .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+        QStringList wanted;
+        for (QString path : expected)
+            wanted << sandbox.machine(
+                profiles.isEmpty() ? path : path.replace("{0}", profiles.at(0)).replace("{1}", profiles.at(1)));
+        QCOMPARE(CleanupScanner().categories().at(category).paths, wanted);
+    }
+
+    void clean_data()
+    {
+        QTest::addColumn<QList<int>>("positions");
+        QTest::addColumn<QList<int>>("expectedProgress");
+        QTest::addColumn<qint64>("expectedFreed");
+        QTest::addColumn<bool>("prefetchEmptied");
+
+        QTest::newRow("empty list") << QList<int>() << QList<int>() << qint64(0) << false;
+        QTest::newRow("out of range last: a step without progress")
+            << QList<int>({ WuCache, 11 }) << QList<int>({ 50 }) << qint64(50) << false;
+        QTest::newRow("out of range first; links go as links")
+            << QList<int>({ -1, Prefetch }) << QList<int>({ 100 }) << qint64(300) << true;
+        QTest::newRow("a locked file stays and is not counted")
+            << QList<int>({ Dumps }) << QList<int>({ 100 }) << qint64(1000) << false;
+    }
+
+    // Links in Prefetch lead outside the machine: they must go as links, without a byte of their
+    // targets counted or deleted.
+    void clean()
+    {
+        QFETCH(QList<int>, positions);
+        QFETCH(QList<int>, expectedProgress);
+        QFETCH(qint64, expectedFreed);
+        QFETCH(bool, prefetchEmptied);
+        CleanupSandbox sandbox;
+        const QString prefetch = sandbox.machine("C:/Windows/Prefetch"), dumps = sandbox.machine("L:CrashDumps");
+        const QString precious = sandbox.outside("precious/deeper/keep.doc");
+        const QList<QPair<QString, int>> files = { { prefetch + "/A.pf", 100 }, { prefetch + "/sub/B.pf", 200 },
+            { sandbox.machine("C:/Windows/SoftwareDistribution/Download/kb.cab"), 50 }, { dumps + "/gone.dmp", 1000 },
+            { dumps + "/locked/stays.dmp", 9000 }, { precious, 7000 } };
+        for (const auto& [path, bytes] : files)
+            QVERIFY(CleanupSandbox::write(path, bytes));
+        QVERIFY(QFile::link(sandbox.outside("precious"), prefetch + "/linked-folder"));
+        QVERIFY(QFile::link(precious, prefetch + "/sub/linked-file"));
+        const bool locked = setUndeletable(dumps + "/locked", true);
+        const auto unlock = qScopeGuard([&] { setUndeletable(dumps + "/locked", false); });
+        if (!locked && positions.contains(Dumps))
+            QSKIP("neither permissions nor the immutable flag can make a file undeletable here");
+
+        CleanupScanner scanner;
+        QSignalSpy progress(&scanner, &CleanupScanner::cleanProgress);
+        QSignalSpy finished(&scanner, &CleanupScanner::cleanFinished);
+        scanner.clean(positions);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
+        QCOMPARE(finished.at(0).at(0).value<qint64>(), expectedFreed);
+        QCOMPARE(intsOf(progress), expectedProgress);
+        QCOMPARE(QDir(prefetch).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System), prefetchEmptied);
+        QCOMPARE(QFileInfo(precious).size(), 7000);
+        QVERIFY(QFileInfo::exists(dumps + "/locked/stays.dmp"));
+        QVERIFY(QFileInfo(prefetch).isDir()); // the category folder itself always stays
+    }
+
+    void rowSizeAndColours_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("colours"); // of the text, then of the bar
+        QTest::addColumn<int>("bar");
+
+        const QString blue = "#2563eb/#3b82f6", amber = "#d97706/#f59e0b", red = "#dc2626/#ef4444";
+        QTest::newRow("exactly 200 MiB is blue") << 200 * MiB << "200 MB" << blue << 19;
+        QTest::newRow("one byte more is amber") << 200 * MiB + 1 << "200 MB" << amber << 19;
+        QTest::newRow("exactly 800 MiB is amber") << 800 * MiB << "800 MB" << amber << 78;
+        QTest::newRow("one byte more is red") << 800 * MiB + 1 << "800 MB" << red << 78;
+        QTest::newRow("1 GiB has one decimal") << GiB << "1.0 GB" << red << 100;
+    }
+
+    void rowSizeAndColours()
+    {
+        QFETCH(qint64, bytes);
+        QFETCH(QString, colours);
+        CleanupRowWidget row({ "prefetch", "Prefetch", "⚡", { "C:/Windows/Prefetch" }, 0, true });
+        row.setSize(bytes);
+        auto* label = row.findChild<QLabel*>("CleanupRowSize");
+        QTEST(label->text(), "text");
+        QVERIFY(label->styleSheet().contains("color:" + colours.section('/', 0, 0) + ';'));
+        auto* bar = row.findChild<QProgressBar*>("CleanupRowBar");
+        QVERIFY(bar->styleSheet().contains("::chunk { background:" + colours.section('/', 1) + ';'));
+        QTEST(bar->value(), "bar");
+    }
+
+    void headerTotal_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        // The circle, the total in the status line, and what the selected half would free.
+        QTest::addColumn<QStringList>("texts");
+        QTest::newRow("one byte under 1 GiB stays in M") << GiB - 1 << QStringList { "1024M", "1024 MB", "512 MB" };
+        QTest::newRow("exactly 1 GiB switches to G") << GiB << QStringList { "1.0G", "1.0 GB", "512 MB" };
+    }
+
+    void headerTotal()
+    {
+        QFETCH(qint64, bytes);
+        QFETCH(QStringList, texts);
+        CleanupSandbox sandbox;
+        QVERIFY(CleanupSandbox::write(sandbox.machine("C:/Windows/Prefetch/a.pf"), bytes / 2, true));
+        QVERIFY(CleanupSandbox::write(sandbox.machine("C:/Windows.old/b.bin"), bytes - bytes / 2, true));
+        CleanupPage page(nullptr);
+        QSignalSpy finished(page.scanner(), &CleanupScanner::scanFinished);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
+        QTRY_COMPARE(text(page, "CleanupTotalLabel"), texts.at(0));
+        QCOMPARE(text(page, "CleanupStatusDetail"), "发现 11 类可清理文件，共 " + texts.at(1));
+        QCOMPARE(text(page, "CleanupSummaryLine"), "已选 8 类  ·  预计释放 " + texts.at(2));
+    }
+
+    void selectAllThenCleanNothing()
+    {
+        CleanupSandbox sandbox;
+        QVERIFY(CleanupSandbox::write(sandbox.machine("C:/Windows/Prefetch/a.pf"), 3 * MiB));
+        CleanupPage page(nullptr);
+        QSignalSpy scanned(page.scanner(), &CleanupScanner::scanFinished);
+        QSignalSpy cleaned(page.scanner(), &CleanupScanner::cleanFinished);
+        QPushButton* selectAll = button(page, "CleanupSelectAllButton");
+        const QList<CleanupRowWidget*> rows = page.findChildren<CleanupRowWidget*>();
+        const auto selected
+            = [&] { return int(std::count_if(rows.begin(), rows.end(), [](auto* r) { return r->isSelected(); })); };
+        QCOMPARE(selected(), 8);
+        QTest::mouseClick(selectAll, Qt::LeftButton);
+        QCOMPARE(selected(), 11);
+        QTest::mouseClick(selectAll, Qt::LeftButton);
+        QCOMPARE(selected(), 0);
+        // One unselected row is enough for the button to select all again.
+        QTest::mouseClick(selectAll, Qt::LeftButton);
+        QTest::mouseClick(rows.at(4), Qt::LeftButton);
+        QTest::mouseClick(selectAll, Qt::LeftButton);
+        QCOMPARE(selected(), 11);
+        QTest::mouseClick(selectAll, Qt::LeftButton);
+
+        QPushButton* clean = button(page, "CleanupCleanButton");
+        QTRY_VERIFY_WITH_TIMEOUT(scanned.count() == 1 && clean->isEnabled(), 10000);
+        QTest::mouseClick(clean, Qt::LeftButton);
+        QVERIFY(!progressShown(page));
+        QCOMPARE(cleaned.count(), 0);
+        QVERIFY(QFileInfo::exists(sandbox.machine("C:/Windows/Prefetch/a.pf")));
+    }
 };
-
-// Each place holds a different power of two, so every sum shows exactly which places were counted.
-void tst_Cleanup::scanMeasuresEveryPlaceOnce()
-{
-    CleanupSandbox sandbox;
-    const QStringList places = { "C:/Windows/Temp/a", "L:Temp/nested/b", "C:/Windows/SoftwareDistribution/Download/c",
-        "L:Google/Chrome/User Data/Default/Cache/d", "L:Microsoft/Edge/User Data/Default/Cache/e",
-        "R:Mozilla/Firefox/Profiles/x.default/f", "C:/Windows/Logs/CBS/g", "C:/Windows/Prefetch/h",
-        "L:Microsoft/Windows/Explorer/i", "L:CrashDumps/j", "C:/ProgramData/Microsoft/Windows/WER/ReportQueue/k",
-        "C:/Windows/Minidump/l", "C:/$Recycle.Bin/S-1-5-21/m", "C:/Windows.old/Windows/n",
-        // Listed under logs beside its folder, yet counted only by the temporary folder holding it.
-        "C:/Windows/Temp/MRT.log" };
-    const auto bit = [](int i) { return qint64(1) << (2 * i + 6); }; // past 4 GiB for the last two
-    for (int i = 0; i < places.size(); ++i)
-        QVERIFY(CleanupSandbox::write(sandbox.machine(places.at(i)), bit(i), true));
-    QVERIFY(CleanupSandbox::write(sandbox.outside("big.doc"), 1 << 20, true));
-    QVERIFY(QFile::link(sandbox.outside(""), sandbox.machine("C:/Windows/Temp/link-out")));
-
-    CleanupScanner scanner;
-    QSignalSpy progress(&scanner, &CleanupScanner::scanProgress);
-    QSignalSpy finished(&scanner, &CleanupScanner::scanFinished);
-    scanner.scan();
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
-    QCOMPARE(intsOf(progress), QList<int>({ 9, 18, 27, 36, 45, 54, 63, 72, 81, 90, 100 }));
-    QList<qint64> sizes;
-    for (const JunkCategory& c : scanner.categories())
-        sizes << c.size;
-    QCOMPARE(sizes,
-        QList<qint64>({ bit(0) + bit(1) + bit(14), bit(2), bit(3), bit(4), bit(5), bit(6), bit(7), bit(8),
-            bit(9) + bit(10) + bit(11), bit(12), bit(13) }));
-}
-
-// Folders are made with "{0}" and "{1}" as "Default" and "Profile 1"; in the expected paths they
-// stand for the profiles in the order the file system lists them.
-void tst_Cleanup::cacheDiscovery_data()
-{
-    QTest::addColumn<int>("category");
-    QTest::addColumn<QStringList>("folders");
-    QTest::addColumn<QStringList>("expected");
-
-    const auto reversed = [](const QStringList& list) { return QStringList(list.rbegin(), list.rend()); };
-    const QString chrome = "L:Google/Chrome%1/User Data/%2/%3", edge = "L:Microsoft/Edge/User Data/Default/";
-    const QString ffR = "R:Mozilla/Firefox/Profiles/", ffL = "L:Mozilla/Firefox/Profiles/";
-    const QStringList chromes = { chrome.arg("", "{0}", "Cache"), chrome.arg("", "{0}", "Code Cache"),
-        chrome.arg("", "{1}", "Cache"), chrome.arg("", "{1}", "Code Cache"), chrome.arg(" Beta", "Default", "Cache"),
-        chrome.arg(" Dev", "Default", "GPUCache"), chrome.arg(" SxS", "Default", "Cache") };
-    QTest::newRow("channels stable, Beta, Dev, SxS; profiles as listed") << int(Chrome) << reversed(chromes) << chromes;
-    QTest::newRow("profiles without caches: fallback")
-        << int(Edge) << QStringList { edge + "Extensions" } << QStringList { edge + "Cache" };
-    QTest::newRow("no Firefox caches: the whole profiles folder")
-        << int(Firefox) << QStringList { ffR + "abc.default" } << QStringList { ffR.chopped(1) };
-    QStringList firefox;
-    for (const char* p : { "{0}/", "{1}/" })
-        firefox << ffR + p + "cache2" << ffR + p + "startupCache" << ffR + p + "shader-cache";
-    firefox << ffL + "{0}/cache2" << ffL + "{1}/cache2";
-    // A local profile without a roaming one is never looked at.
-    QTest::newRow("Firefox: roaming caches in name order, then the local ones")
-        << int(Firefox) << reversed(firefox) + QStringList { ffL + "lonely/cache2" } << firefox;
-}
-
-void tst_Cleanup::cacheDiscovery()
-{
-    QFETCH(int, category);
-    QFETCH(QStringList, folders);
-    QFETCH(QStringList, expected);
-
-    CleanupSandbox sandbox;
-    for (QString folder : folders)
-        QVERIFY(QDir().mkpath(sandbox.machine(folder.replace("{0}", "Default").replace("{1}", "Profile 1"))));
-    const QString first = expected.filter("{0}").value(0);
-    const QStringList profiles = first.isEmpty() ? QStringList()
-                                                 : QDir(sandbox.machine(first.left(first.indexOf("/{0}"))))
-                                                       .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
-    QStringList wanted;
-    for (QString path : expected)
-        wanted << sandbox.machine(
-            profiles.isEmpty() ? path : path.replace("{0}", profiles.at(0)).replace("{1}", profiles.at(1)));
-    QCOMPARE(CleanupScanner().categories().at(category).paths, wanted);
-}
-
-void tst_Cleanup::clean_data()
-{
-    QTest::addColumn<QList<int>>("positions");
-    QTest::addColumn<QList<int>>("expectedProgress");
-    QTest::addColumn<qint64>("expectedFreed");
-    QTest::addColumn<bool>("prefetchEmptied");
-
-    QTest::newRow("empty list") << QList<int>() << QList<int>() << qint64(0) << false;
-    QTest::newRow("out of range last: a step without progress")
-        << QList<int>({ WuCache, 11 }) << QList<int>({ 50 }) << qint64(50) << false;
-    QTest::newRow("out of range first; links go as links")
-        << QList<int>({ -1, Prefetch }) << QList<int>({ 100 }) << qint64(300) << true;
-    QTest::newRow("the same category twice frees once")
-        << QList<int>({ Prefetch, Prefetch, WuCache }) << QList<int>({ 33, 66, 100 }) << qint64(350) << true;
-    QTest::newRow("a locked file stays and is not counted")
-        << QList<int>({ Dumps }) << QList<int>({ 100 }) << qint64(1000) << false;
-}
-
-// Links in Prefetch lead outside the machine: they must go as links, without a byte of their
-// targets counted or deleted.
-void tst_Cleanup::clean()
-{
-    QFETCH(QList<int>, positions);
-    QFETCH(QList<int>, expectedProgress);
-    QFETCH(qint64, expectedFreed);
-    QFETCH(bool, prefetchEmptied);
-
-    CleanupSandbox sandbox;
-    const QString prefetch = sandbox.machine("C:/Windows/Prefetch"), dumps = sandbox.machine("L:CrashDumps");
-    const QString precious = sandbox.outside("precious/deeper/keep.doc");
-    const QList<QPair<QString, int>> files = { { prefetch + "/A.pf", 100 }, { prefetch + "/sub/B.pf", 200 },
-        { sandbox.machine("C:/Windows/SoftwareDistribution/Download/kb.cab"), 50 }, { dumps + "/gone.dmp", 1000 },
-        { dumps + "/locked/stays.dmp", 9000 }, { precious, 7000 } };
-    for (const auto& [path, bytes] : files)
-        QVERIFY(CleanupSandbox::write(path, bytes));
-    QVERIFY(QFile::link(sandbox.outside("precious"), prefetch + "/linked-folder"));
-    QVERIFY(QFile::link(precious, prefetch + "/sub/linked-file"));
-    const bool locked = setUndeletable(dumps + "/locked", true);
-    const auto unlock = qScopeGuard([&] { setUndeletable(dumps + "/locked", false); });
-    if (!locked && positions.contains(Dumps))
-        QSKIP("neither permissions nor the immutable flag can make a file undeletable here");
-
-    CleanupScanner scanner;
-    QSignalSpy progress(&scanner, &CleanupScanner::cleanProgress);
-    QSignalSpy finished(&scanner, &CleanupScanner::cleanFinished);
-    scanner.clean(positions);
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
-    QCOMPARE(finished.at(0).at(0).value<qint64>(), expectedFreed);
-    QCOMPARE(intsOf(progress), expectedProgress);
-    QCOMPARE(QDir(prefetch).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System), prefetchEmptied);
-    QCOMPARE(QFileInfo(precious).size(), 7000);
-    QVERIFY(QFileInfo::exists(dumps + "/locked/stays.dmp"));
-    QVERIFY(QFileInfo(prefetch).isDir()); // the category folder itself always stays
-}
-
-void tst_Cleanup::rowSizeAndColours_data()
-{
-    QTest::addColumn<qint64>("bytes");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("colours"); // of the text, then of the bar
-    QTest::addColumn<int>("bar");
-
-    const QString blue = "#2563eb/#3b82f6", amber = "#d97706/#f59e0b", red = "#dc2626/#ef4444";
-    QTest::newRow("negative") << qint64(-5000) << "0 KB" << blue << 0;
-    QTest::newRow("just below 1 MiB stays KB") << MiB - 1 << "1024 KB" << blue << 0;
-    QTest::newRow("1 MiB") << MiB << "1 MB" << blue << 0;
-    QTest::newRow("exactly 200 MiB is blue") << 200 * MiB << "200 MB" << blue << 19;
-    QTest::newRow("one byte more is amber") << 200 * MiB + 1 << "200 MB" << amber << 19;
-    QTest::newRow("exactly 800 MiB is amber") << 800 * MiB << "800 MB" << amber << 78;
-    QTest::newRow("one byte more is red") << 800 * MiB + 1 << "800 MB" << red << 78;
-    QTest::newRow("1 GiB has one decimal") << GiB << "1.0 GB" << red << 100;
-    QTest::newRow("past 2 GiB the bar stays full") << GiB * 5 / 2 << "2.5 GB" << red << 100;
-}
-
-void tst_Cleanup::rowSizeAndColours()
-{
-    QFETCH(qint64, bytes);
-    QFETCH(QString, colours);
-    CleanupRowWidget row({ "prefetch", "Prefetch", "⚡", { "C:/Windows/Prefetch" }, 0, true });
-    row.setSize(bytes);
-    auto* label = row.findChild<QLabel*>("CleanupRowSize");
-    QTEST(label->text(), "text");
-    QVERIFY2(
-        label->styleSheet().contains("color:" + colours.section('/', 0, 0) + ';'), qPrintable(label->styleSheet()));
-    auto* bar = row.findChild<QProgressBar*>("CleanupRowBar");
-    QVERIFY2(bar->styleSheet().contains("::chunk { background:" + colours.section('/', 1) + ';'),
-        qPrintable(bar->styleSheet()));
-    QTEST(bar->value(), "bar");
-}
-
-void tst_Cleanup::headerTotal_data()
-{
-    QTest::addColumn<qint64>("bytes");
-    // The circle, the total in the status line, and what the selected half would free.
-    QTest::addColumn<QStringList>("texts");
-    QTest::newRow("nothing found") << qint64(0) << QStringList { "0M", "0 KB", "0 KB" };
-    QTest::newRow("one byte under 1 GiB stays in M") << GiB - 1 << QStringList { "1024M", "1024 MB", "512 MB" };
-    QTest::newRow("exactly 1 GiB switches to G") << GiB << QStringList { "1.0G", "1.0 GB", "512 MB" };
-}
-
-void tst_Cleanup::headerTotal()
-{
-    QFETCH(qint64, bytes);
-    QFETCH(QStringList, texts);
-    CleanupSandbox sandbox;
-    QVERIFY(CleanupSandbox::write(sandbox.machine("C:/Windows/Prefetch/a.pf"), bytes / 2, true));
-    QVERIFY(CleanupSandbox::write(sandbox.machine("C:/Windows.old/b.bin"), bytes - bytes / 2, true));
-    CleanupPage page(nullptr);
-    QSignalSpy finished(page.scanner(), &CleanupScanner::scanFinished);
-    QTest::qWait(100); // the page starts its own first scan, but not while the window is still coming up
-    QCOMPARE(finished.count(), 0);
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
-    QTRY_COMPARE(text(page, "CleanupTotalLabel"), texts.at(0));
-    QCOMPARE(text(page, "CleanupStatusDetail"), "发现 11 类可清理文件，共 " + texts.at(1));
-    QCOMPARE(text(page, "CleanupSummaryLine"), "已选 8 类  ·  预计释放 " + texts.at(2));
-}
-
-void tst_Cleanup::selectAllToggles()
-{
-    CleanupSandbox sandbox;
-    CleanupPage page(nullptr);
-    QPushButton* selectAll = button(page, "CleanupSelectAllButton");
-    const QList<CleanupRowWidget*> rows = page.findChildren<CleanupRowWidget*>();
-    const auto selected
-        = [&] { return int(std::count_if(rows.begin(), rows.end(), [](auto* r) { return r->isSelected(); })); };
-    int signalled = 0;
-    for (CleanupRowWidget* row : rows)
-        connect(row, &CleanupRowWidget::selectionChanged, this, [&] { ++signalled; });
-    QCOMPARE(selected(), 8);
-
-    QTest::mouseClick(selectAll, Qt::LeftButton);
-    QCOMPARE(selected(), 11);
-    QCOMPARE(signalled, 3); // only the rows that changed
-    QCOMPARE(selectAll->text(), QStringLiteral("☐ 取消全选"));
-    QTest::mouseClick(selectAll, Qt::LeftButton);
-    QCOMPARE(selected(), 0);
-    QCOMPARE(selectAll->text(), QStringLiteral("☑ 全选"));
-    // One unselected row is enough for the button to select all again.
-    QTest::mouseClick(selectAll, Qt::LeftButton);
-    QTest::mouseClick(rows.at(4), Qt::LeftButton);
-    QTest::mouseClick(selectAll, Qt::LeftButton);
-    QCOMPARE(selected(), 11);
-}
-
-void tst_Cleanup::cleanRunsOnlyOnWhatIsSelected()
-{
-    CleanupSandbox sandbox;
-    QVERIFY(CleanupSandbox::write(sandbox.machine("C:/Windows/Prefetch/a.pf"), 3 * MiB));
-    CleanupPage page(nullptr);
-    QSignalSpy scanned(page.scanner(), &CleanupScanner::scanFinished);
-    QSignalSpy cleaned(page.scanner(), &CleanupScanner::cleanFinished);
-    for (CleanupRowWidget* row : page.findChildren<CleanupRowWidget*>())
-        row->setSelected(false);
-    QPushButton* clean = button(page, "CleanupCleanButton");
-    QTRY_VERIFY_WITH_TIMEOUT(scanned.count() == 1 && clean->isEnabled(), 10000);
-    QTest::mouseClick(clean, Qt::LeftButton); // nothing selected: nothing happens
-    QVERIFY(!progressShown(page));
-    QTest::qWait(300);
-    QCOMPARE(cleaned.count(), 0);
-    QVERIFY(QFileInfo::exists(sandbox.machine("C:/Windows/Prefetch/a.pf")));
-
-    page.findChildren<CleanupRowWidget*>().at(6)->setSelected(true);
-    QTest::mouseClick(clean, Qt::LeftButton);
-    // Nothing can start another scan or clean while this one runs.
-    QVERIFY(!clean->isEnabled() && !button(page, "CleanupRescanButton")->isEnabled() && progressShown(page));
-    QTRY_COMPARE_WITH_TIMEOUT(text(page, "CleanupSummaryLine"), QStringLiteral("✓ 清理完成，释放 <b>3 MB</b>"), 10000);
-    QTRY_COMPARE_WITH_TIMEOUT(scanned.count(), 2, 10000); // the follow-up scan
-    QTRY_COMPARE(sizeOf(page, 6), QStringLiteral("0 KB"));
-}
 
 QTEST_MAIN(tst_Cleanup)
 #include "tst_cleanup.moc"
