@@ -1,20 +1,16 @@
-// Contract cases for the file-system service: the same trees, measured and emptied by the
-// sandbox implementation natively and by the Win32 one under Wine.
-
-#include "platform/filesystem.h"
+// The same trees measured and emptied by the sandbox natively and by Win32 under Wine.
 
 #ifdef _WIN32
 #include "platform/win/winfilesystem.h"
+#include <windows.h>
 #else
 #include "platform/sandbox/sandboxfilesystem.h"
 #endif
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <random>
 #include <string>
 
@@ -22,101 +18,162 @@ namespace fs = std::filesystem;
 
 namespace {
 
+#ifdef _WIN32
+// Wine cannot create Windows links, but a Unix symbolic link inside the prefix shows through the
+// Win32 API as a folder reparse point, so the link is made from the Unix side.
+std::string unixPath(const fs::path& path)
+{
+    using UnixNameFn = char*(CDECL*)(LPCWSTR);
+    static const auto fn = reinterpret_cast<UnixNameFn>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
+    char* name = fn ? fn(path.wstring().c_str()) : nullptr;
+    const std::string result = name ? name : "";
+    if (name)
+        ::HeapFree(::GetProcessHeap(), 0, name);
+    return result;
+}
+
+bool isLink(const fs::path& path)
+{
+    const DWORD attributes = ::GetFileAttributesW(path.wstring().c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
+}
+
+// Wine starts Unix programs given by their Z: path, but the handle it returns for one cannot be
+// waited on, so the link itself is watched until it shows up.
+bool makeLink(const fs::path& target, const fs::path& link)
+{
+    const std::string from = unixPath(target), to = unixPath(link);
+    if (from.empty() || to.empty() || (from + to).find(' ') != std::string::npos)
+        return false;
+    std::wstring command = L"Z:\\bin\\ln -s " + fs::path(from).wstring() + L" " + fs::path(to).wstring();
+    STARTUPINFOW startup { sizeof startup };
+    PROCESS_INFORMATION process {};
+    if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+        return false;
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    for (int waitedMs = 0; waitedMs < 10000 && !isLink(link); waitedMs += 20)
+        ::Sleep(20);
+    return isLink(link);
+}
+#else
+bool isLink(const fs::path& path)
+{
+    return fs::is_symlink(fs::symlink_status(path));
+}
+
+bool makeLink(const fs::path& target, const fs::path& link)
+{
+    std::error_code error;
+    fs::create_directory_symlink(target, link, error);
+    return !error;
+}
+#endif
+
 class FileSystemContract : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        m_root = fs::temp_directory_path() / ("norvale-fs-" + std::to_string(std::random_device()()));
-#ifdef _WIN32
-        m_fs = std::make_unique<platform::WinFileSystem>();
-#else
-        m_fs = std::make_unique<platform::SandboxFileSystem>(m_root.wstring());
-#endif
-    }
     void TearDown() override
     {
         std::error_code ignored;
-        fs::remove_all(m_root, ignored);
+        fs::remove_all(m_base, ignored);
     }
 
-    std::wstring path(const std::string& relative) const
-    {
-        return (m_root / relative).generic_wstring();
-    }
+    std::wstring path(const std::string& relative) const { return (m_base / relative).generic_wstring(); }
     void write(const std::string& relative, std::size_t bytes) const
     {
-        fs::create_directories((m_root / relative).parent_path());
-        std::ofstream(m_root / relative, std::ios::binary) << std::string(bytes, 'x');
+        fs::create_directories((m_base / relative).parent_path());
+        std::ofstream(m_base / relative, std::ios::binary) << std::string(bytes, 'x');
     }
 
-    fs::path m_root;
-    std::unique_ptr<platform::FileSystem> m_fs;
+    const fs::path m_base = fs::temp_directory_path() / ("norvale-fs-" + std::to_string(std::random_device()()));
+#ifdef _WIN32
+    platform::WinFileSystem m_fs;
+#else
+    platform::SandboxFileSystem m_fs { (m_base / "sandbox").wstring() };
+#endif
 };
 
 TEST_F(FileSystemContract, MeasuresEveryFileAtEveryDepthThenEmptiesTheFolderButKeepsIt)
 {
-    write("junk/a.tmp", 100);
-    write("junk/.hidden", 20);
-    write("junk/sub/b.tmp", 3000);
-    write("junk/sub/deeper/still/c.tmp", 7);
-    write("junk/empty.tmp", 0);
-    fs::create_directories(m_root / "junk/empty-folder");
-    std::string deep = "junk/deep"; // far past the classic Win32 path length limit
+    write("sandbox/junk/a.tmp", 100);
+    write("sandbox/junk/.hidden", 20);
+    write("sandbox/junk/sub/b.tmp", 3000);
+    write("sandbox/junk/sub/deeper/still/c.tmp", 7);
+    write("sandbox/junk/empty.tmp", 0);
+    fs::create_directories(m_base / "sandbox/junk/empty-folder");
+    std::string deep = "sandbox/junk/deep"; // far past the classic Win32 path length limit
     for (int level = 0; level < 60; ++level)
         deep += "/level" + std::to_string(level);
     write(deep + "/bottom.tmp", 1);
-    write("beside.tmp", 999); // outside the measured folder
+    write("sandbox/beside.tmp", 999); // outside the measured folder
 
-    EXPECT_EQ(m_fs->folderSize(path("junk")), 3128);
-    EXPECT_EQ(m_fs->folderSize(path("junk/sub")), 3007);
+    EXPECT_EQ(m_fs.folderSize(path("sandbox/junk")), 3128);
+    EXPECT_EQ(m_fs.folderSize(path("sandbox/junk/sub")), 3007);
 
-    const platform::EmptyFolderResult result = m_fs->emptyFolder(path("junk"));
+    const platform::EmptyFolderResult result = m_fs.emptyFolder(path("sandbox/junk"));
     EXPECT_TRUE(result.opened);
     EXPECT_EQ(result.failed, 0u);
     EXPECT_EQ(result.removed, 71u); // six files, 65 folders
-    EXPECT_TRUE(fs::is_empty(m_root / "junk")); // and still there, or this throws
-    EXPECT_TRUE(fs::exists(m_root / "beside.tmp"));
+    EXPECT_TRUE(fs::is_empty(m_base / "sandbox/junk")); // and still there, or this throws
+    EXPECT_TRUE(fs::exists(m_base / "sandbox/beside.tmp"));
 }
 
 // A file where a folder is expected (the log file listed beside the log folders), or nothing at all.
 TEST_F(FileSystemContract, WhatIsNotAFolderIsNeitherMeasuredNorEmptiedNorListed)
 {
-    write("MRT.log", 4096);
-    EXPECT_EQ(m_fs->folderSize(L""), 0);
-    for (const std::wstring& notAFolder : { path("MRT.log"), path("missing"), path("missing/below") }) {
+    write("sandbox/MRT.log", 4096);
+    EXPECT_EQ(m_fs.folderSize(L""), 0);
+    for (const std::wstring& notAFolder : { path("sandbox/MRT.log"), path("sandbox/missing/below") }) {
         SCOPED_TRACE(std::string(notAFolder.begin(), notAFolder.end()));
-        EXPECT_FALSE(m_fs->isFolder(notAFolder));
-        EXPECT_EQ(m_fs->folderSize(notAFolder), 0);
-        EXPECT_FALSE(m_fs->emptyFolder(notAFolder).opened);
-        EXPECT_FALSE(m_fs->subFolders(notAFolder).has_value());
+        EXPECT_FALSE(m_fs.isFolder(notAFolder));
+        EXPECT_EQ(m_fs.folderSize(notAFolder), 0);
+        EXPECT_FALSE(m_fs.emptyFolder(notAFolder).opened);
+        EXPECT_FALSE(m_fs.subFolders(notAFolder).has_value());
     }
-    EXPECT_EQ(fs::file_size(m_root / "MRT.log"), 4096u);
+    EXPECT_EQ(fs::file_size(m_base / "sandbox/MRT.log"), 4096u);
 }
 
-// Category paths are a base folder from the environment with "/Name/..." appended as plain text,
-// so a base that ends in a separator doubles it.
-TEST_F(FileSystemContract, StraySeparatorsAndDotsNameTheSameFolder)
+TEST_F(FileSystemContract, ALinkedFolderIsNeitherMeasuredNorEnteredAndItsTargetStays)
 {
-    write("Local/Google/Chrome/User Data/Default/Cache/f_000001", 40);
-    write("Local/Google/Chrome/User Data/Default/Cache/sub/f_000002", 2);
-    const std::wstring base = path("Local");
-    std::vector<std::wstring> spellings = {
-        base + L"//Google/Chrome/User Data/Default/Cache",
-        base + L"/Google/./Chrome/User Data//Default/Cache/",
-    };
-#ifdef _WIN32
-    std::wstring native = base;
-    std::replace(native.begin(), native.end(), L'/', L'\\');
-    spellings.push_back(native + L"\\/Google/Chrome/User Data/Default/Cache");
+    write("outside/precious/keep.doc", 5000);
+    write("sandbox/junk/sub/a.tmp", 10);
+    ASSERT_TRUE(makeLink(m_base / "outside/precious", m_base / "sandbox/junk/sub/link"));
+#ifndef _WIN32
+    fs::create_symlink(m_base / "outside/precious/keep.doc", m_base / "sandbox/junk/file-link");
 #endif
-    for (const std::wstring& spelling : spellings) {
-        SCOPED_TRACE(std::string(spelling.begin(), spelling.end()));
-        EXPECT_TRUE(m_fs->isFolder(spelling));
-        EXPECT_EQ(m_fs->folderSize(spelling), 42);
-        EXPECT_EQ(m_fs->subFolders(spelling), std::optional(std::vector<std::wstring> { L"sub" }));
-    }
-    EXPECT_TRUE(m_fs->emptyFolder(spellings.back()).opened);
-    EXPECT_TRUE(fs::is_empty(m_root / "Local/Google/Chrome/User Data/Default/Cache"));
+
+    EXPECT_FALSE(m_fs.isFolder(path("sandbox/junk/sub/link")));
+    EXPECT_EQ(m_fs.folderSize(path("sandbox/junk/sub/link")), 0);
+    EXPECT_FALSE(m_fs.emptyFolder(path("sandbox/junk/sub/link")).opened);
+    EXPECT_EQ(m_fs.folderSize(path("sandbox/junk")), 10);
+
+    const platform::EmptyFolderResult result = m_fs.emptyFolder(path("sandbox/junk"));
+    EXPECT_TRUE(result.opened);
+    EXPECT_EQ(m_fs.folderSize(path("sandbox/junk")), 0);
+    EXPECT_EQ(fs::file_size(m_base / "outside/precious/keep.doc"), 5000u);
+    // The link goes as a link, except that Wine 8 refuses RemoveDirectoryW on a Unix link
+    // (ERROR_DIR_NOT_EMPTY): there it stays, still a link, and counts as a failure.
+    EXPECT_EQ(isLink(m_base / "sandbox/junk/sub/link"), result.failed != 0);
 }
+
+#ifndef _WIN32
+TEST_F(FileSystemContract, TheSandboxReachesNothingOutsideItsRoot)
+{
+    write("outside/keep.doc", 100);
+    write("sandbox/C/Windows/Temp/a.tmp", 1);
+    ASSERT_TRUE(makeLink(m_base / "outside", m_base / "sandbox/C/linked"));
+    // Beside the root, climbing out, a link as the folder itself and as a step on the way.
+    for (const char* refused : { "outside", "sandbox/../outside", "sandbox/C/linked", "sandbox/C/linked/." }) {
+        SCOPED_TRACE(refused);
+        EXPECT_FALSE(m_fs.isFolder(path(refused)));
+        EXPECT_EQ(m_fs.folderSize(path(refused)), 0);
+        EXPECT_FALSE(m_fs.emptyFolder(path(refused)).opened);
+        EXPECT_FALSE(m_fs.subFolders(path(refused)).has_value());
+    }
+    EXPECT_TRUE(fs::exists(m_base / "outside/keep.doc"));
+    EXPECT_EQ(m_fs.folderSize(path("sandbox")), 1);
+}
+#endif
 
 } // namespace
