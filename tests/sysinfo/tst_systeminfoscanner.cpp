@@ -4,7 +4,6 @@
 #include "sysinfo/systeminfoscanner.h"
 
 #include <QTest>
-#include <QTimer>
 
 using platform::DiskSpace;
 using platform::MemoryStatus;
@@ -52,8 +51,6 @@ private slots:
         QTest::newRow("zero delta keeps the old value; more free than total never wraps")
             << SystemTimes { 1000, 2000, 2000 } << MemoryStatus { 0, 2 * GiB, 3 * GiB }
             << DiskSpace { 12 * GiB, 10 * GiB, 12 * GiB } << "75; 0 0/2048 MB; 0 0/10 GB, 12";
-        QTest::newRow("idle beyond busy time floors at 0")
-            << SystemTimes { 1300, 2100, 2000 } << MemoryStatus {} << DiskSpace {} << "0; 0 0/0 MB; 0 0/0 GB, 0";
     }
 
     void tick()
@@ -89,9 +86,6 @@ private slots:
         QTest::newRow("processor length judged after clean-up")
             << QStringList { "ProcessorNameString=Intel(R) Xeon(R) Gold 6248R CPU @ 3.00GHz" }
             << "Intel Xeon Gold 6248R CPU @ 3.00GHz |  | ";
-        QTest::newRow("processor of 36 characters kept")
-            << QStringList { "ProcessorNameString=AMD Ryzen 9 7950X 16-Core Processors" }
-            << "AMD Ryzen 9 7950X 16-Core Processors |  | ";
         QTest::newRow("processor of 37 characters cut to 34 and an ellipsis")
             << QStringList { "ProcessorNameString=AMD Ryzen 9 7950X3D 16-Core Processor" }
             << "AMD Ryzen 9 7950X3D 16-Core Proces… |  | ";
@@ -101,11 +95,6 @@ private slots:
         QTest::newRow("Windows 10 renamed from build 22000")
             << QStringList { "ProductName=Windows 10 Pro", "CurrentBuildNumber=22000", "DisplayVersion=21H2" }
             << " | Windows 11 Pro | Build 22000.0  21H2";
-        QTest::newRow("values trimmed before use")
-            << QStringList { "ProductName= Windows 10 Home ", "CurrentBuildNumber= 22631 ", "DisplayVersion= 23H2 " }
-            << " | Windows 11 Home | Build 22631.0  23H2";
-        QTest::newRow("unreadable build never renames") << QStringList { "ProductName=Windows 10 Pro",
-            "CurrentBuildNumber=abc" } << " | Windows 10 Pro | Build abc.0  ";
     }
 
     void gathering()
@@ -124,15 +113,6 @@ private slots:
         QCOMPARE(gather(scanner), (QStringList { "static", "metrics" }));
         QTEST(QStringList({ scanner.cpuName(), scanner.osName(), scanner.buildText() }).join(" | "), "expected");
         QCOMPARE(scanner.metrics().cpuPercent, 75);
-
-        // The page, not the facts, starts the ticks, and the first measures from the worker's sample.
-        auto* timer = scanner.findChild<QTimer*>();
-        QVERIFY(!timer->isActive());
-        scanner.startMonitoring();
-        QVERIFY(timer->isActive() && timer->interval() == 1500);
-        pf.times = SystemTimes { 1090, 2100, 2000 };
-        QVERIFY(QMetaObject::invokeMethod(timer, "timeout"));
-        QCOMPARE(scanner.metrics().cpuPercent, 10);
     }
 };
 
