@@ -74,3 +74,27 @@ TEST_F(SystemFactsContract, ProcessorAndWindowsVersionComeBackAsStored)
     ASSERT_EQ(reg().setString(Hive::LocalMachine, VersionKey, L"UBR", L"4460"), Status::Ok);
     EXPECT_EQ(SystemFacts::readWindowsVersion(reg()).value().ubr, 0u);
 }
+
+// Installed updates: packages whose names hold "KB" in any case; with none, the evaluation cache's
+// subkey count. The Wine prefix is thrown away after the run, so the case owns both keys.
+TEST_F(SystemFactsContract, UpdatesCountKbPackagesElseTheEvaluationCache)
+{
+    const std::wstring servicing = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Component Based Servicing";
+    const std::wstring packages = servicing + L"\\Packages";
+    const std::wstring cache = servicing + L"\\ApplicabilityEvaluationCache";
+    reg().deleteTree(Hive::LocalMachine, packages);
+    reg().deleteTree(Hive::LocalMachine, cache);
+    for (const wchar_t* name : { L"Package_for_KB5031356~31bf", L"Package_for_kb890830", L"Microsoft-Windows-Foo" })
+        ASSERT_EQ(reg().createKey(Hive::LocalMachine, packages + L"\\" + name), Status::Ok);
+    for (const wchar_t* name : { L"A", L"B", L"C" })
+        ASSERT_EQ(reg().createKey(Hive::LocalMachine, cache + L"\\" + name), Status::Ok);
+    EXPECT_EQ(SystemFacts::countInstalledUpdates(reg()), 2u);
+
+    reg().deleteTree(Hive::LocalMachine, packages + L"\\Package_for_KB5031356~31bf");
+    reg().deleteTree(Hive::LocalMachine, packages + L"\\Package_for_kb890830");
+    EXPECT_EQ(SystemFacts::countInstalledUpdates(reg()), 3u); // no KB package: the cache decides
+    reg().deleteTree(Hive::LocalMachine, packages);
+    EXPECT_EQ(SystemFacts::countInstalledUpdates(reg()), 3u); // no Packages key at all
+    reg().deleteTree(Hive::LocalMachine, cache);
+    EXPECT_EQ(SystemFacts::countInstalledUpdates(reg()), 0u);
+}
