@@ -47,7 +47,8 @@ bool makeLink(const fs::path& target, const fs::path& link)
     if (from.empty() || to.empty() || (from + to).find(' ') != std::string::npos)
         return false;
     std::wstring command = L"Z:\\bin\\ln -s " + fs::path(from).wstring() + L" " + fs::path(to).wstring();
-    STARTUPINFOW startup { sizeof startup };
+    STARTUPINFOW startup {};
+    startup.cb = sizeof startup;
     PROCESS_INFORMATION process {};
     if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
         return false;
