@@ -64,6 +64,9 @@ public:
     static QDate fileTimeToDate(quint64 fileTime);
     // A Windows path as this machine reaches it (the sandbox maps "C:\..." into its folder).
     static QString localPath(const QString& windowsPath);
+    // The install location as a local folder to look at (quotes removed, variables expanded), or
+    // an empty text for none, a relative one or one on a network path.
+    static QString installFolder(const QString& installLocation);
 
     static constexpr int UninstallTimeoutMs = 300000; // five minutes, then the uninstaller is left alone
 
