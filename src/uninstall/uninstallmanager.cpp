@@ -1,8 +1,8 @@
 #include "uninstallmanager.h"
 
 #include <platform/environment.h>
-#include <platform/launcher.h>
 #include <platform/filesystem.h>
+#include <platform/launcher.h>
 #include <platform/platform.h>
 #include <platform/uninstallcommandline.h>
 #include <platform/uninstallentries.h>
@@ -400,11 +400,14 @@ QString UninstallManager::historyFilePath()
 void UninstallManager::loadHistory()
 {
     QList<UninstalledApp> list;
+    bool readable = true;
     QFile file(historyFilePath());
     if (file.exists() && file.size() > MaxHistoryBytes) {
         qWarning() << "[UninstallManager] History file too large, ignored:" << file.size() << "bytes";
+        readable = false;
     } else if (file.open(QIODevice::ReadOnly)) {
-        const QJsonDocument doc = QJsonDocument::fromJson(file.read(MaxHistoryBytes + 1));
+        const QByteArray content = file.read(MaxHistoryBytes + 1);
+        const QJsonDocument doc = QJsonDocument::fromJson(content);
         if (doc.isArray()) {
             const QJsonArray array = doc.array();
             for (const QJsonValue& element : array) {
@@ -419,10 +422,36 @@ void UninstallManager::loadHistory()
                 list << app;
             }
             qDebug() << "[UninstallManager] History loaded:" << list.size() << "entries";
+        } else {
+            // An empty file holds nothing worth keeping.
+            readable = content.trimmed().isEmpty();
         }
+    } else if (file.exists()) {
+        qWarning() << "[UninstallManager] Cannot read history:" << file.errorString();
+        readable = false;
     }
+    m_keepUnreadableHistory = !readable;
     QMutexLocker lock(&m_mutex);
     m_history = list;
+}
+
+bool UninstallManager::keepUnreadableHistory()
+{
+    if (!m_keepUnreadableHistory)
+        return true;
+    const QString path = historyFilePath();
+    const QString backup = path + QStringLiteral(".bak");
+    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink()) {
+        // Renamed, not copied: nothing of it has to be read, however large or unreadable it is.
+        QFile::remove(backup);
+        if (!QFile::rename(path, backup)) {
+            qWarning() << "[UninstallManager] Cannot keep the unreadable history, not saving:" << backup;
+            return false;
+        }
+        qWarning() << "[UninstallManager] Unreadable history kept as:" << backup;
+    }
+    m_keepUnreadableHistory = false;
+    return true;
 }
 
 bool UninstallManager::saveHistory()
@@ -438,6 +467,9 @@ bool UninstallManager::saveHistory()
         o.insert(QLatin1String("uninstalledAt"), app.uninstalledAt.toString(Qt::ISODate));
         array.append(o);
     }
+    // A history this program could not read may still be the user's only record.
+    if (!keepUnreadableHistory())
+        return false;
     // Written beside the old file and swapped in, so a crash mid-write keeps the old history.
     QSaveFile file(historyFilePath());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {

@@ -78,6 +78,8 @@ signals:
 
 private:
     void rebuild();
+    // Moves a history that could not be loaded out of the way before it is first replaced.
+    bool keepUnreadableHistory();
     QDate today() const;
 
     mutable QMutex m_mutex;
@@ -90,4 +92,5 @@ private:
     QFuture<void> m_batch;
     std::atomic_bool m_refreshing { false };
     std::atomic_bool m_stopping { false };
+    std::atomic_bool m_keepUnreadableHistory { false };
 };

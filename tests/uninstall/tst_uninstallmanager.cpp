@@ -220,22 +220,41 @@ private slots:
         QCOMPARE(UninstallManager::rot13("Ünpx {1NP}\\abgrcnq.rkr NOPZnmaz"), "Üack {1AC}\\notepad.exe ABCMaznm");
     }
 
+    // A history that cannot be read may still be the user's only record: it is kept beside the
+    // new one. "<folder>" puts a folder in the file's place, which no one can read as a file.
     void history_data()
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<int>("loaded");
-        QTest::newRow("empty") << QByteArray() << 0;
-        QTest::newRow("not JSON") << QByteArray("uninstall history v1\n") << 0;
-        QTest::newRow("object") << QByteArray(R"({"name":"Tool Box"})") << 0;
-        QTest::newRow("unparsable time") << QByteArray(R"([{"name":"Old","uninstalledAt":"yesterday-ish"}])") << 1;
+        QTest::addColumn<bool>("keptAsBackup");
+        QTest::newRow("empty: nothing to keep") << QByteArray() << 0 << false;
+        QTest::newRow("not JSON") << QByteArray("uninstall history v1\n") << 0 << true;
+        QTest::newRow("cut short") << QByteArray("[{\"name\":\"Tool Box\",\"publisher\":\"Bri") << 0 << true;
+        QTest::newRow("object") << QByteArray(R"({"name":"Tool Box"})") << 0 << true;
+        QTest::newRow("over the size accepted") << QByteArray("<32 MiB and one byte>") << 0 << true;
+        QTest::newRow("cannot be read") << QByteArray("<folder>") << 0 << true;
+        QTest::newRow("unparsable time") << QByteArray(R"([{"name":"Old","uninstalledAt":"yesterday-ish"}])") << 1
+                                         << false;
     }
     void history()
     {
         QFETCH(QByteArray, content);
         QFETCH(int, loaded);
-        QFile file(UninstallManager::historyFilePath());
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        file.close();
+        QFETCH(bool, keptAsBackup);
+        const QString path = UninstallManager::historyFilePath();
+        QFile file(path);
+        if (content == "<folder>") {
+            QVERIFY(QDir().mkdir(path));
+        } else {
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            if (content.startsWith("<32 MiB"))
+                QVERIFY(file.write("[") == 1 && file.resize(32 * 1024 * 1024 + 1)); // sparse
+            else
+                QVERIFY(file.write(content) == content.size());
+            file.close();
+        }
+        const bool wasFile = QFileInfo(path).isFile();
+        const qint64 sizeBefore = QFileInfo(path).size();
         {
             UninstallManager manager;
             QCOMPARE(manager.history().size(), loaded);
@@ -243,9 +262,10 @@ private slots:
             std::tie(a.name, a.publisher, a.installLocation, a.displayIcon)
                 = std::tuple("Tool Box", "Brightwork", "C:\\Tools", "C:\\Tools\\tool.exe,0");
             manager.recordUninstall(a);
+            manager.recordUninstall(a); // the backup is made once, before the first save only
         }
         const QList<UninstalledApp> history = UninstallManager().history();
-        QCOMPARE(history.size(), loaded + 1);
+        QCOMPARE(history.size(), loaded + 2);
         const UninstalledApp& h = history.last();
         QCOMPARE(QStringList({ h.name, h.publisher, h.installLocation, h.displayIcon }),
             QStringList({ "Tool Box", "Brightwork", "C:\\Tools", "C:\\Tools\\tool.exe,0" }));
@@ -256,6 +276,16 @@ private slots:
         QCOMPARE(saved.last()["uninstalledAt"].toString().size(), 19);
         if (loaded)
             QCOMPARE(saved[0]["uninstalledAt"], QJsonValue(""));
+
+        const QFileInfo backup(path + ".bak");
+        QCOMPARE(backup.exists(), keptAsBackup);
+        if (keptAsBackup && wasFile) {
+            QCOMPARE(backup.size(), sizeBefore);
+            QFile kept(backup.filePath());
+            QVERIFY(kept.open(QIODevice::ReadOnly));
+            QCOMPARE(kept.read(content.size()),
+                content.startsWith('<') ? QByteArray("[") + QByteArray(content.size() - 1, 0) : content);
+        }
     }
 
     void uninstall_data()
