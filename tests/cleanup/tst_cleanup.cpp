@@ -6,7 +6,6 @@
 #include "platform/sandbox/sandboxplatform.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
