@@ -482,9 +482,9 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(scanned.count() == 1 && clean->isEnabled(), 10000);
 
         QTest::mouseClick(clean, Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(cleaned.count(), 1, 10000);
+        // The spy counts in the pool thread; the hidden bar shows the page has handled the end too.
+        QTRY_VERIFY_WITH_TIMEOUT(cleaned.count() == 1 && !progressShown(page), 10000);
         QVERIFY(clean->isEnabled());
-        QVERIFY(!progressShown(page));
 
         QVERIFY(CleanupSandbox::write(prefetch + "/b.pf", 5000));
         gated.files.hold(true);
