@@ -7,6 +7,7 @@
 #include "sandboxfilesystem.h"
 #include "sandboxiconextractor.h"
 #include "sandboxlauncher.h"
+#include "sandboxpackagecatalogue.h"
 #include "sandboxregistry.h"
 
 #include <sys/stat.h>
@@ -49,6 +50,7 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
     m_fileSystem = std::make_unique<SandboxFileSystem>(m_root);
     m_launcher = std::make_unique<SandboxLauncher>(m_root, m_registry.get());
     m_icons = std::make_unique<SandboxIconExtractor>(m_root);
+    m_packages = std::make_unique<SandboxPackageCatalogue>(m_root);
 }
 
 SandboxPlatform::~SandboxPlatform() = default;
@@ -80,6 +82,10 @@ Launcher& SandboxPlatform::launcher()
 IconExtractor& SandboxPlatform::icons()
 {
     return *m_icons;
+}
+PackageCatalogue& SandboxPlatform::packages()
+{
+    return *m_packages;
 }
 std::wstring SandboxPlatform::sandboxRoot() const
 {
