@@ -91,7 +91,7 @@ packages = [
     ("Microsoft.WindowsCamera", "2023.2312.3.0", "8wekyb3d8bbwe", "Camera", "Microsoft Corporation",
      "Camera", "", [], None, [], {"noFolder": True}),
     ("Microsoft.Windows.Photos", "2024.11010.9001.0", "8wekyb3d8bbwe", "Microsoft Photos", "Microsoft Corporation",
-     "", "", [], None, [512], {}),
+     "", "", [], None, [14 * MB + 200 * KB], {}),
     # Left out by the scanner.
     ("Microsoft.VCLibs.140.00", "14.0.33519.0", "8wekyb3d8bbwe", "Microsoft Visual C++ Runtime", "Microsoft Platform Extensions",
      "", "", [], None, [1 * MB], {"framework": "1"}),

@@ -24,12 +24,12 @@ public:
 
     // Column widths the page's header shares with the rows.
     static constexpr int CheckColumn = 40;
-    static constexpr int PublisherColumn = 170;
-    static constexpr int VersionColumn = 120;
-    static constexpr int DateColumn = 90;
-    static constexpr int SizeColumn = 70;
-    static constexpr int ActionColumn = 64;
-    static constexpr int ColumnSpacing = 10;
+    static constexpr int PublisherColumn = 140;
+    static constexpr int VersionColumn = 104;
+    static constexpr int DateColumn = 78;
+    static constexpr int SizeColumn = 62;
+    static constexpr int ActionColumn = 60;
+    static constexpr int ColumnSpacing = 8;
 
 signals:
     void selectionChanged(bool selected);

@@ -26,10 +26,7 @@ protected:
     }
     void TearDown() override { fs::remove_all(m_root); }
 
-    void write(const std::string& text)
-    {
-        std::ofstream(m_root / "packages.txt", std::ios::binary) << text;
-    }
+    void write(const std::string& text) { std::ofstream(m_root / "packages.txt", std::ios::binary) << text; }
 
     // Every package the filter lets through, and what the filter saw.
     std::vector<PackageRecord> walk(std::vector<PackageRecord>* seen = nullptr, bool keep = true)
@@ -54,17 +51,19 @@ protected:
 
 TEST_F(SandboxCatalogueTest, PackagesComeInFileOrderAndTheFilterSeesOnlyTheFirstRound)
 {
-    write("# demo\n[package]\nname=Contoso.Notes\nfullName=Contoso.Notes_1.2.3.4_x64__abc\nfamilyName=Contoso.Notes_abc\n"
-          "publisherId=abc\nversion=1.2.3.4\nlocation=C:\\Program Files\\WindowsApps\\Notes\\\n"
-          "displayName=ms-resource:AppName\npublisherDisplayName=Contoso = Ltd\nbundle=true\nsignature=system\n"
-          "[package]\r\nname=Fabrikam.Paint\r\nframework=1\r\nresource=1\r\nsignature=3\r\n");
+    write(
+        "# demo\n[package]\nname=Contoso.Notes\nfullName=Contoso.Notes_1.2.3.4_x64__abc\nfamilyName=Contoso.Notes_abc\n"
+        "publisherId=abc\nversion=1.2.3.4\nlocation=C:\\Program Files\\WindowsApps\\Notes\\\n"
+        "displayName=ms-resource:AppName\npublisherDisplayName=Contoso = Ltd\nbundle=true\nsignature=system\n"
+        "[package]\r\nname=Fabrikam.Paint\r\nframework=1\r\nresource=1\r\nsignature=3\r\n");
     std::vector<PackageRecord> seen;
     const auto packages = walk(&seen);
     ASSERT_EQ(packages.size(), 2u);
     const PackageRecord& notes = packages[0];
     EXPECT_EQ(notes.fullName, L"Contoso.Notes_1.2.3.4_x64__abc");
     EXPECT_EQ(notes.familyName + L"|" + notes.publisherId, L"Contoso.Notes_abc|abc");
-    EXPECT_EQ(notes.version.major + notes.version.minor * 10 + notes.version.build * 100 + notes.version.revision * 1000,
+    EXPECT_EQ(
+        notes.version.major + notes.version.minor * 10 + notes.version.build * 100 + notes.version.revision * 1000,
         4321);
     EXPECT_EQ(notes.installLocation, (m_root / "C/Program Files/WindowsApps/Notes").wstring());
     EXPECT_EQ(notes.publisherDisplayName, L"Contoso = Ltd");
@@ -81,8 +80,8 @@ TEST_F(SandboxCatalogueTest, PackagesComeInFileOrderAndTheFilterSeesOnlyTheFirst
 
 TEST_F(SandboxCatalogueTest, LocationsOffTheSystemDriveOrClimbingOutAreLeftEmpty)
 {
-    const char* const locations[] = { "D:\\Apps\\Notes", "C:\\Program Files\\..\\..\\..\\etc", "/etc", "C:", "\\\\server\\share",
-        "C:\\Apps\\..", "relative\\path" };
+    const char* const locations[] = { "D:\\Apps\\Notes", "C:\\Program Files\\..\\..\\..\\etc", "/etc",
+        "C:", "\\\\server\\share", "C:\\Apps\\..", "relative\\path" };
     std::string text;
     for (const char* location : locations)
         text += std::string("[package]\nname=P\nlocation=") + location + "\n";
@@ -97,7 +96,8 @@ TEST_F(SandboxCatalogueTest, JunkLinesAndBadValuesAreSkippedAndTheRestIsRead)
 {
     std::string junk("\x00\xff\xfe[pack\x01", 8);
     write("name=BeforeAnySection\n" + junk + "\n=\n[package]\nversion=99999.1.x.3\nsignature=kernel\nname\n"
-          + std::string(100000, 'x') + "\n[other]\nname=Ignored\n[package]\nname=Second\n[strings]\nnot a source=1\n"
+        + std::string(100000, 'x')
+        + "\n[other]\nname=Ignored\n[package]\nname=Second\n[strings]\nnot a source=1\n"
           "@{Second_1?ms-resource:A}=Text = with equals\n@{Unterminated?ms-resource:B=Nothing\n");
     const auto packages = walk();
     ASSERT_EQ(packages.size(), 2u);
@@ -119,7 +119,8 @@ TEST_F(SandboxCatalogueTest, AnOversizedFileCountsAsNoRuntime)
 {
     write("[package]\nname=A\n" + std::string(9 * 1024 * 1024, '#'));
     platform::SandboxPackageCatalogue catalogue(m_root.wstring());
-    const auto status = catalogue.forEachPackage([](const PackageRecord&) { return true; }, [](const PackageRecord&) {});
+    const auto status
+        = catalogue.forEachPackage([](const PackageRecord&) { return true; }, [](const PackageRecord&) {});
     EXPECT_FALSE(status.ok);
     EXPECT_EQ(status.error, platform::SandboxPackageCatalogue::ClassNotRegistered);
 }
