@@ -4,16 +4,6 @@
 
 #include <QDebug>
 
-namespace {
-
-// Shown by the Windows apps page, hence its translation context.
-QString pageText(const char* source)
-{
-    return QCoreApplication::translate("WinAppsPage", source);
-}
-
-} // namespace
-
 WinAppRemover::WinAppRemover(ProcessRunner& runner)
     : m_runner(runner)
 {
@@ -72,6 +62,7 @@ RemoveResult WinAppRemover::remove(const WinApp& app)
         qDebug().noquote() << "[WinApps] winget fallback exit:" << winget.exitCode << "for" << app.wingetId;
     }
 
+    // The messages are shown by the Windows apps page, hence its translation context.
     RemoveResult result;
     result.displayName = app.displayName;
     const Step check = powerShell(
@@ -82,10 +73,12 @@ RemoveResult WinAppRemover::remove(const WinApp& app)
     if (gone) {
         result.success = true;
     } else if (!removed) {
-        result.message = error.isEmpty() ? pageText("移除失败（可能需要管理员权限）") : error;
+        result.message
+            = error.isEmpty() ? QCoreApplication::translate("WinAppsPage", "移除失败（可能需要管理员权限）") : error;
     } else {
-        result.message = pageText("系统保护应用，已移除当前用户注册，但系统级组件可能在重启后自动恢复。\n"
-                                  "若需彻底删除，请以管理员身份运行本程序。");
+        result.message = QCoreApplication::translate("WinAppsPage",
+            "系统保护应用，已移除当前用户注册，但系统级组件可能在重启后自动恢复。\n"
+            "若需彻底删除，请以管理员身份运行本程序。");
     }
     return result;
 }
