@@ -205,7 +205,7 @@ QWidget* WinAppsPage::createColumnHeader()
     layout->addWidget(columnLabel(tr("版本"), WinAppRow::VersionColumn, columns));
     layout->addWidget(columnLabel(tr("安装日期"), WinAppRow::DateColumn, columns));
     layout->addWidget(columnLabel(tr("大小"), WinAppRow::SizeColumn, columns));
-    layout->addSpacing(WinAppRow::ActionColumn - 8 + 8);
+    layout->addSpacing(WinAppRow::ActionColumn + 8);
     return columns;
 }
 
