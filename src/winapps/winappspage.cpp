@@ -96,9 +96,11 @@ WinAppsPage::~WinAppsPage()
 {
     // The scanner is a thread of its own: it must end before its QThread object goes. A removal
     // needs no wait: its worker holds only its own copies and a guarded pointer to the page.
-    if (m_scanner) {
-        disconnect(m_scanner, nullptr, this, nullptr);
-        m_scanner->wait();
+    // Every scanner still alive, including one that has delivered its list but not yet ended.
+    const auto scanners = findChildren<WinAppScanner*>();
+    for (WinAppScanner* scanner : scanners) {
+        disconnect(scanner, nullptr, this, nullptr);
+        scanner->wait();
     }
 }
 
@@ -312,11 +314,11 @@ void WinAppsPage::refresh()
     m_spinTimer->start();
     setBusy(true);
 
-    m_scanner = new WinAppScanner(this);
-    connect(m_scanner, &WinAppScanner::scanProgress, this, &WinAppsPage::onScanProgress);
-    connect(m_scanner, &WinAppScanner::scanDone, this, &WinAppsPage::onScanDone);
-    connect(m_scanner, &QThread::finished, m_scanner, &QObject::deleteLater);
-    m_scanner->start();
+    auto* scanner = new WinAppScanner(this);
+    connect(scanner, &WinAppScanner::scanProgress, this, &WinAppsPage::onScanProgress);
+    connect(scanner, &WinAppScanner::scanDone, this, &WinAppsPage::onScanDone);
+    connect(scanner, &QThread::finished, scanner, &QObject::deleteLater);
+    scanner->start();
 }
 
 void WinAppsPage::onScanProgress(int found)
@@ -326,7 +328,6 @@ void WinAppsPage::onScanProgress(int found)
 
 void WinAppsPage::onScanDone(const QList<WinApp>& apps)
 {
-    m_scanner = nullptr; // deletes itself once its thread has ended
     m_scanning = false;
     m_apps = apps;
     m_spinTimer->stop();

@@ -17,7 +17,6 @@ class QPushButton;
 class QTimer;
 class QVBoxLayout;
 class WinAppRow;
-class WinAppScanner;
 
 // The Windows apps page: the packaged apps found by a WinAppScanner, with search, selection,
 // single and batch removal (run on the thread pool) and refresh.
@@ -68,7 +67,6 @@ private:
     bool m_scanning = false;
     bool m_removing = false;
 
-    WinAppScanner* m_scanner = nullptr;
     std::shared_ptr<ProcessRunner> m_runner;
     QFutureWatcher<QList<RemoveResult>>* m_watcher = nullptr;
 

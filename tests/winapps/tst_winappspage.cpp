@@ -1,3 +1,5 @@
+#include "fakecatalogue.h"
+
 #include "winapps/processrunner.h"
 #include "winapps/winapprow.h"
 #include "winapps/winappspage.h"
@@ -63,6 +65,7 @@ class tst_WinAppsPage : public QObject {
     Q_OBJECT
 
 private slots:
+    void refreshShowsTheBannerUntilTheScanEnds();
     void searchAndCounts();
     void selectionDrivesTheRemoveButton();
     void everyRemovalFailedShowsTheCriticalBox();
@@ -74,6 +77,35 @@ private:
     QList<WinAppRow*> rows(WinAppsPage& page) { return page.findChildren<WinAppRow*>(); }
     QString count(WinAppsPage& page) { return page.findChild<QLabel*>("WinAppsCount")->text(); }
 };
+
+void tst_WinAppsPage::refreshShowsTheBannerUntilTheScanEnds()
+{
+    FakeCatalogue catalogue;
+    for (int i = 0; i < 6; ++i) {
+        platform::PackageRecord p;
+        p.name = L"Contoso.App" + std::to_wstring(i);
+        p.fullName = p.name + L"_1.0.0.0_x64__abc";
+        catalogue.packages_.push_back(p);
+    }
+    {
+        // Closed while its scan still runs: the page waits for the thread instead of crashing.
+        WinAppsPage closing;
+        closing.refresh();
+    }
+
+    WinAppsPage page;
+    page.refresh();
+    auto* banner = page.findChild<QWidget*>("WinAppsBanner");
+    QVERIFY(banner->isVisibleTo(&page));
+    QCOMPARE(count(page), QStringLiteral("正在扫描..."));
+    QVERIFY(!page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
+    QTRY_VERIFY(!banner->isVisibleTo(&page));
+    QCOMPARE(
+        page.findChild<QLabel*>("WinAppsBannerText")->text(), QStringLiteral("正在扫描 Windows 应用... 已找到 5 个"));
+    QCOMPARE(count(page), QStringLiteral("共 6 个应用"));
+    QCOMPARE(rows(page).size(), 6);
+    QVERIFY(page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
+}
 
 void tst_WinAppsPage::searchAndCounts()
 {
