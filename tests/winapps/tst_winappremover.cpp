@@ -204,8 +204,6 @@ void tst_WinAppRemover::quoting_data()
                                      << "''''";
     QTest::newRow("typographic quotes end PowerShell strings too") << QString::fromUtf8(
         "a\u2018b\u2019c\u201Ad\u201Be") << QString::fromUtf8("a\u2018\u2018b\u2019\u2019c\u201A\u201Ad\u201B\u201Be");
-    QTest::newRow("double quotes and dollars are literal inside single quotes") << "\"$env:x\""
-                                                                                << "\"$env:x\"";
 }
 
 void tst_WinAppRemover::quoting()

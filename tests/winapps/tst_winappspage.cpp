@@ -215,10 +215,6 @@ void tst_WinAppsPage::avatarColours_data()
                                         << "#8b5cf6";
     QTest::newRow("same letter, same colour") << "Apple"
                                               << "#8b5cf6";
-    QTest::newRow("lower case differs by 0x20: same index") << "alarms"
-                                                            << "#8b5cf6";
-    QTest::newRow("G is 0x47: index 7") << "Gallery"
-                                        << "#f97316";
     QTest::newRow("H is 0x48: wraps to 0") << "Help"
                                            << "#0ea5e9";
     QTest::newRow("a Chinese first character") << QStringLiteral("应用商店") << "#ef4444";
