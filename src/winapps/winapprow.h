@@ -24,8 +24,8 @@ public:
 
     // Column widths the page's header shares with the rows.
     static constexpr int CheckColumn = 40;
-    static constexpr int PublisherColumn = 140;
-    static constexpr int VersionColumn = 104;
+    static constexpr int PublisherColumn = 132;
+    static constexpr int VersionColumn = 116;
     static constexpr int DateColumn = 78;
     static constexpr int SizeColumn = 62;
     static constexpr int ActionColumn = 60;
