@@ -195,6 +195,15 @@ bool unlinkEntry(int dirFd, const char* name, int flags, EmptyFolderResult& resu
     return false;
 }
 
+// The sandbox's read-only attribute: a file its owner may not write, the reading Wine gives the
+// same mode bits. Unix would unlink such a file anyway; Windows refuses a plain delete of it, so
+// the emptied folder's own read-only files stay, while inside a folder being removed they go.
+bool isReadOnly(int dirFd, const char* name)
+{
+    struct stat st;
+    return ::fstatat(dirFd, name, &st, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(st.st_mode) && !(st.st_mode & S_IWUSR);
+}
+
 void emptyBelow(int dirFd, dev_t device, int depth, EmptyFolderResult& result)
 {
     std::vector<Entry> entries;
@@ -203,7 +212,12 @@ void emptyBelow(int dirFd, dev_t device, int depth, EmptyFolderResult& result)
         return;
     }
     for (const Entry& e : entries) {
-        if (entryType(dirFd, e) != DT_DIR) {
+        const unsigned char type = entryType(dirFd, e);
+        if (type != DT_DIR) {
+            if (depth == 0 && type == DT_REG && isReadOnly(dirFd, e.name.c_str())) {
+                noteFailure(result, EACCES);
+                continue;
+            }
             // Files, links and anything else go as themselves; unlinkat never follows a link.
             unlinkEntry(dirFd, e.name.c_str(), 0, result);
             continue;
