@@ -1,6 +1,7 @@
 #include "sandboxfilesystem.h"
 
 #include "../strings.h"
+#include "sandboxpath.h"
 
 #include <cerrno>
 #include <cstddef>
@@ -20,48 +21,6 @@ constexpr int MaxDepth = 400;
 
 // One large read per directory chunk: the listing is the hot path of a scan.
 constexpr std::size_t ListingBufferBytes = 64 * 1024;
-
-class UniqueFd {
-public:
-    explicit UniqueFd(int fd = -1)
-        : m_fd(fd)
-    {
-    }
-    ~UniqueFd() { reset(); }
-    UniqueFd(const UniqueFd&) = delete;
-    UniqueFd& operator=(const UniqueFd&) = delete;
-    UniqueFd(UniqueFd&& other) noexcept
-        : m_fd(other.release())
-    {
-    }
-    UniqueFd& operator=(UniqueFd&& other) noexcept
-    {
-        if (this != &other)
-            reset(other.release());
-        return *this;
-    }
-
-    int get() const { return m_fd; }
-    bool isValid() const { return m_fd >= 0; }
-    int release()
-    {
-        const int fd = m_fd;
-        m_fd = -1;
-        return fd;
-    }
-    void reset(int fd = -1)
-    {
-        if (m_fd >= 0) {
-            const int saved = errno;
-            ::close(m_fd);
-            errno = saved;
-        }
-        m_fd = fd;
-    }
-
-private:
-    int m_fd;
-};
 
 struct Entry {
     std::string name;
