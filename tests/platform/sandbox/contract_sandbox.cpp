@@ -1,5 +1,6 @@
 #include "contract.h"
 
+#include "platform/sandbox/sandboxenvironment.h"
 #include "platform/sandbox/sandboxregistry.h"
 
 namespace contract {
@@ -12,6 +13,17 @@ std::unique_ptr<platform::Registry> makeContractRegistry()
 bool valuesComeInCreationOrder()
 {
     return true;
+}
+
+std::unique_ptr<platform::Environment> makeContractEnvironment()
+{
+    return std::make_unique<platform::SandboxEnvironment>(L"/nonexistent/norvale-contract"); // never touched
+}
+
+void setContractVariable(
+    platform::Environment& environment, const std::wstring& name, const std::optional<std::wstring>& value)
+{
+    static_cast<platform::SandboxEnvironment&>(environment).setVariable(name, value);
 }
 
 } // namespace contract

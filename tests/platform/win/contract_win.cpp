@@ -1,5 +1,6 @@
 #include "contract.h"
 
+#include "platform/win/winenvironment.h"
 #include "platform/win/winregistry.h"
 
 #include <windows.h>
@@ -14,6 +15,16 @@ std::unique_ptr<platform::Registry> makeContractRegistry()
 bool valuesComeInCreationOrder()
 {
     return !::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version");
+}
+
+std::unique_ptr<platform::Environment> makeContractEnvironment()
+{
+    return std::make_unique<platform::WinEnvironment>();
+}
+
+void setContractVariable(platform::Environment&, const std::wstring& name, const std::optional<std::wstring>& value)
+{
+    ::SetEnvironmentVariableW(name.c_str(), value ? value->c_str() : nullptr);
 }
 
 } // namespace contract
