@@ -79,13 +79,13 @@ DWORD attributesOf(HANDLE handle)
 
 // Opens the folder a caller names, the last component as itself: a link there is opened as the
 // link, so its attributes give it away and it is never listed.
-UniqueHfile openTopFolder(const std::wstring& folder, DWORD& attributes)
+UniqueHfile openTopFolder(const std::wstring& folder, DWORD& attributes, ACCESS_MASK access = WalkAccess)
 {
     attributes = INVALID_FILE_ATTRIBUTES;
     const std::wstring path = toWin32Path(folder);
     if (path.empty())
         return UniqueHfile();
-    UniqueHfile handle(::CreateFileW(path.c_str(), WalkAccess, ShareAll, nullptr, OPEN_EXISTING,
+    UniqueHfile handle(::CreateFileW(path.c_str(), access, ShareAll, nullptr, OPEN_EXISTING,
         FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
     if (!handle)
         return handle;
@@ -335,8 +335,9 @@ void emptyBelow(HANDLE folder, int depth, EmptyFolderResult& result)
 
 bool WinFileSystem::isFolder(const std::wstring& path)
 {
+    // Being there is enough: a folder the user may not list (C:\Windows\Temp unelevated) is still one.
     DWORD attributes;
-    const UniqueHfile folder = openTopFolder(path, attributes);
+    const UniqueHfile folder = openTopFolder(path, attributes, FILE_READ_ATTRIBUTES | SYNCHRONIZE);
     return folder && isRealFolder(attributes);
 }
 
