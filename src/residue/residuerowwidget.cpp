@@ -11,6 +11,7 @@ namespace {
 
 constexpr int RowHeight = 56;
 constexpr int SizeWidth = 70;
+constexpr int BadgeHeight = 17;
 constexpr qint64 MiB = 1024 * 1024;
 constexpr qint64 RedAbove = 100 * MiB;
 constexpr qint64 AmberAbove = 10 * MiB;
@@ -22,6 +23,7 @@ QLabel* badge(const QString& text, const char* color, const char* background, QW
 {
     auto* label = new QLabel(text, parent);
     label->setStyleSheet(QString::fromLatin1(BadgeStyle).arg(QLatin1String(color), QLatin1String(background)));
+    label->setFixedHeight(BadgeHeight);
     return label;
 }
 
@@ -61,7 +63,8 @@ ResidueRowWidget::ResidueRowWidget(const ResidueItem& item, QWidget* parent)
 
     auto* texts = new QVBoxLayout;
     texts->setContentsMargins(0, 0, 0, 0);
-    texts->setSpacing(1);
+    texts->setSpacing(2);
+    texts->addStretch();
     auto* titleLine = new QHBoxLayout;
     titleLine->setSpacing(6);
     auto* name = new QLabel(item.name, this);
@@ -86,6 +89,7 @@ ResidueRowWidget::ResidueRowWidget(const ResidueItem& item, QWidget* parent)
     // A long path must not widen the row.
     path->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     texts->addWidget(path);
+    texts->addStretch();
     layout->addLayout(texts, 1);
 
     auto* size = new QLabel(ResidueDialog::formatSize(item.size), this);
