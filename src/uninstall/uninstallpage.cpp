@@ -345,8 +345,11 @@ void UninstallPage::rebuildRows()
     // A fresh list widget replaces the old one in one step; the scroll area deletes the old.
     auto* list = new QWidget;
     list->setObjectName(QStringLiteral("UninstallList"));
-    list->setStyleSheet(
-        QStringLiteral("QWidget#UninstallList { background:#f0f7ff; }") + UninstallRowWidget::removeButtonStyleSheet());
+    // A palette rather than a style sheet: a sheet here would be matched against every row.
+    list->setAutoFillBackground(true);
+    QPalette palette = list->palette();
+    palette.setColor(QPalette::Window, QColor(0xf0, 0xf7, 0xff));
+    list->setPalette(palette);
     auto* layout = new QVBoxLayout(list);
     layout->setContentsMargins(24, 8, 24, 8);
     layout->setSpacing(0);
@@ -370,6 +373,10 @@ void UninstallPage::rebuildRows()
 
 void UninstallPage::applyFilter()
 {
+    QWidget* list = m_rows.isEmpty() ? nullptr : m_rows.constFirst()->parentWidget();
+    // One repaint and one layout pass for the whole list, not one per row.
+    if (list)
+        list->setUpdatesEnabled(false);
     for (UninstallRowWidget* row : std::as_const(m_rows)) {
         const InstalledApp& app = row->app();
         const bool byFilter = m_filterKey.isEmpty() || app.status == m_filterKey;
@@ -377,6 +384,8 @@ void UninstallPage::applyFilter()
             || app.publisher.contains(m_search, Qt::CaseInsensitive);
         row->setVisible(byFilter && bySearch);
     }
+    if (list)
+        list->setUpdatesEnabled(true);
     m_emptyLabel->setVisible(!m_hasInventory);
     updateBottomBar();
 }

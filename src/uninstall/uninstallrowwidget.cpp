@@ -7,7 +7,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPushButton>
 
 namespace {
 
@@ -37,14 +36,8 @@ UninstallRowWidget::UninstallRowWidget(const InstalledApp& app, QWidget* parent)
 {
     setFixedHeight(RowHeight);
     setAttribute(Qt::WA_Hover);
+    setMouseTracking(true);
     setCursor(Qt::PointingHandCursor);
-
-    m_remove = new QPushButton(tr("Remove"), this);
-    m_remove->setObjectName(QStringLiteral("RemoveButton"));
-    m_remove->setProperty("kind", removeKind(app.status));
-    m_remove->setFixedSize(ButtonWidth, ButtonHeight);
-    m_remove->setCursor(Qt::PointingHandCursor);
-    connect(m_remove, &QPushButton::clicked, this, [this] { emit uninstallRequested(m_app); });
 }
 
 QString UninstallRowWidget::removeKind(const QString& status)
@@ -56,18 +49,9 @@ QString UninstallRowWidget::removeKind(const QString& status)
     return QStringLiteral("quiet");
 }
 
-QString UninstallRowWidget::removeButtonStyleSheet()
+QRect UninstallRowWidget::removeButtonRect() const
 {
-    return QStringLiteral("QPushButton#RemoveButton { border-radius:6px; font-size:12px; font-weight:500; padding:0; }"
-                          "QPushButton#RemoveButton[kind=\"amber\"] { background:rgba(245,158,11,0.08); color:#d97706; "
-                          "border:1px solid transparent; }"
-                          "QPushButton#RemoveButton[kind=\"amber\"]:hover { background:#f59e0b; color:white; }"
-                          "QPushButton#RemoveButton[kind=\"red\"] { background:rgba(239,68,68,0.08); color:#dc2626; "
-                          "border:1px solid transparent; }"
-                          "QPushButton#RemoveButton[kind=\"red\"]:hover { background:#ef4444; color:white; }"
-                          "QPushButton#RemoveButton[kind=\"quiet\"] { background:transparent; color:#94a3b8; "
-                          "border:1px solid #e2e8f0; }"
-                          "QPushButton#RemoveButton[kind=\"quiet\"]:hover { color:#dc2626; }");
+    return QRect(width() - SidePadding - ButtonWidth, (height() - ButtonHeight) / 2, ButtonWidth, ButtonHeight);
 }
 
 QString UninstallRowWidget::sizeColor(qint64 bytes)
@@ -90,18 +74,69 @@ void UninstallRowWidget::setSelected(bool selected)
 
 void UninstallRowWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton) {
-        setSelected(!m_selected);
-        event->accept();
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
         return;
     }
-    QWidget::mousePressEvent(event);
+    event->accept();
+    // The button acts on release over it, as a push button does; the rest of the row on press.
+    if (removeButtonRect().contains(event->position().toPoint())) {
+        m_buttonPressed = true;
+        return;
+    }
+    setSelected(!m_selected);
 }
 
-void UninstallRowWidget::resizeEvent(QResizeEvent* event)
+void UninstallRowWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    QWidget::resizeEvent(event);
-    m_remove->move(width() - SidePadding - ButtonWidth, (height() - ButtonHeight) / 2);
+    const bool click = m_buttonPressed && event->button() == Qt::LeftButton
+        && removeButtonRect().contains(event->position().toPoint());
+    m_buttonPressed = false;
+    event->accept();
+    if (click)
+        emit uninstallRequested(m_app);
+}
+
+void UninstallRowWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    const bool over = removeButtonRect().contains(event->position().toPoint());
+    if (over != m_buttonHovered) {
+        m_buttonHovered = over;
+        update(removeButtonRect());
+    }
+    QWidget::mouseMoveEvent(event);
+}
+
+void UninstallRowWidget::leaveEvent(QEvent* event)
+{
+    m_buttonHovered = false;
+    update();
+    QWidget::leaveEvent(event);
+}
+
+void UninstallRowWidget::paintRemoveButton(QPainter& p)
+{
+    const QString kind = removeKind(m_app.status);
+    QColor fill(Qt::transparent);
+    QColor border(Qt::transparent);
+    QColor ink;
+    if (kind == QLatin1String("amber")) {
+        fill = m_buttonHovered ? QColor(0xf5, 0x9e, 0x0b) : QColor(245, 158, 11, 20);
+        ink = m_buttonHovered ? QColor(Qt::white) : QColor(0xd9, 0x77, 0x06);
+    } else if (kind == QLatin1String("red")) {
+        fill = m_buttonHovered ? QColor(0xef, 0x44, 0x44) : QColor(239, 68, 68, 20);
+        ink = m_buttonHovered ? QColor(Qt::white) : QColor(0xdc, 0x26, 0x26);
+    } else {
+        border = QColor(0xe2, 0xe8, 0xf0);
+        ink = m_buttonHovered ? QColor(0xdc, 0x26, 0x26) : QColor(0x94, 0xa3, 0xb8);
+    }
+    const QRectF r = QRectF(removeButtonRect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    p.setPen(border.alpha() ? QPen(border, 1) : Qt::NoPen);
+    p.setBrush(fill);
+    p.drawRoundedRect(r, 6, 6);
+    p.setPen(ink);
+    p.setFont(pixelFont(font(), 12, QFont::Medium));
+    p.drawText(removeButtonRect(), Qt::AlignCenter, tr("Remove"));
 }
 
 void UninstallRowWidget::loadIcon()
@@ -185,4 +220,5 @@ void UninstallRowWidget::paintEvent(QPaintEvent*)
     text(sizeX, SizeWidth, pixelFont(font(), 12, QFont::Medium), QColor(sizeColor(m_app.estimatedSize)),
         UninstallManager::formatSize(m_app.estimatedSize));
     text(dateX, DateWidth, pixelFont(font(), 12), QColor(0x94, 0xa3, 0xb8), m_app.installDate);
+    paintRemoveButton(p);
 }

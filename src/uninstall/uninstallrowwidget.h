@@ -3,13 +3,16 @@
 #include "installedapp.h"
 
 #include <QPixmap>
+#include <QRect>
 #include <QWidget>
 
-class QPushButton;
-
 // One installed program in the uninstall list: tick, icon, name, publisher, size, install date
-// and its "Remove" button. Clicking the row toggles the tick. The icon is read on the pool the
-// first time the row is painted, so a long list only loads what the user gets to see.
+// and its "Remove" button. Clicking the row toggles the tick. Everything is painted, the button
+// included, so that a list of a thousand programs is a thousand plain widgets and builds quickly;
+// the icon is read on the pool the first time the row is painted, so only what the user gets to
+// see is loaded.
+class QPainter;
+
 class UninstallRowWidget final : public QWidget {
     Q_OBJECT
 public:
@@ -28,13 +31,11 @@ public:
     const InstalledApp& app() const { return m_app; }
     bool isSelected() const { return m_selected; }
     void setSelected(bool selected);
-    QPushButton* removeButton() const { return m_remove; }
+    QRect removeButtonRect() const;
     bool hasIcon() const { return !m_icon.isNull(); }
 
     // "amber", "red" or "quiet": the Remove button's look for a status.
     static QString removeKind(const QString& status);
-    // The style of every Remove button in a list, set once on the list rather than per button.
-    static QString removeButtonStyleSheet();
     static QString sizeColor(qint64 bytes);
 
 signals:
@@ -44,14 +45,18 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
     void loadIcon();
+    void paintRemoveButton(QPainter& p);
 
     InstalledApp m_app;
     bool m_selected = false;
     bool m_iconRequested = false;
+    bool m_buttonHovered = false;
+    bool m_buttonPressed = false;
     QPixmap m_icon;
-    QPushButton* m_remove = nullptr;
 };

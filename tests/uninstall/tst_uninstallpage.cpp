@@ -234,10 +234,15 @@ private slots:
         QFETCH(QString, status);
         QFETCH(QString, command);
         UninstallPage page;
+        page.resize(900, 600);
         page.showApps({ app("Tool", "", 1, "", status, command) });
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
         ModalScript script(status == "ok" ? QList<ModalScript::Step> { press("No") }
                                           : QList<ModalScript::Step> { press("Force Remove…"), press("Close") });
-        page.rows().at(0)->removeButton()->click();
+        UninstallRowWidget* row = page.rows().at(0);
+        QTest::mouseClick(row, Qt::LeftButton, {}, row->removeButtonRect().center());
+        QVERIFY(!row->isSelected());
         QTEST(script.seen, "modals");
         QVERIFY(page.manager()->history().isEmpty());
     }
