@@ -197,7 +197,11 @@ void ResidueDialog::showEvent(QShowEvent* event)
     if (m_startAction && !m_started) {
         m_started = true;
         m_busy = true;
-        QTimer::singleShot(StartDelayMs, this, [this] { m_startAction(); });
+        // A dialog closed within the delay starts nothing.
+        QTimer::singleShot(StartDelayMs, this, [this] {
+            if (isVisible())
+                m_startAction();
+        });
     }
 }
 

@@ -112,7 +112,7 @@ QStringList ResidueScanner::Roots::protectedFolders() const
     QStringList list = { driveRoot, home, roaming, local, programData };
     if (!home.isEmpty())
         list << home + QStringLiteral("/AppData") << home + QStringLiteral("/AppData/Roaming");
-    list << programFiles;
+    list << systemFolders;
     list.removeAll(QString());
     return list;
 }
@@ -129,12 +129,12 @@ ResidueScanner::Roots ResidueScanner::Roots::fromPlatform()
     roots.temp = pathFrom(env.temp());
     roots.windowsTemp = pathFrom(env.mapPath(L"C:/Windows/Temp"));
     for (const wchar_t* folder : { L"C:/Program Files", L"C:/Program Files (x86)" })
-        roots.programFiles << pathFrom(env.mapPath(folder));
+        roots.systemFolders << pathFrom(env.mapPath(folder));
     for (const wchar_t* variable : { L"ProgramFiles", L"ProgramFiles(x86)", L"ProgramW6432", L"LOCALAPPDATA" }) {
         if (const auto value = env.variable(variable); value && !value->empty())
-            roots.programFiles << pathFrom(*value);
+            roots.systemFolders << pathFrom(*value);
     }
-    roots.programFiles.removeDuplicates();
+    roots.systemFolders.removeDuplicates();
     return roots;
 }
 
@@ -282,6 +282,10 @@ bool ResidueScanner::isAllowedTarget(const QString& path, int category, const Ro
 {
     const QString p = normalisedPath(path);
     if (p.isEmpty() || !QDir::isAbsolutePath(p) || hasControlCharacter(p))
+        return false;
+    // A network share is never one program's leftover on this machine.
+    const QString raw = QString(path).replace(QLatin1Char('\\'), QLatin1Char('/'));
+    if (raw.startsWith(QLatin1String("//")))
         return false;
     const QStringList folders = roots.protectedFolders();
     if (std::any_of(folders.cbegin(), folders.cend(), [&](const QString& f) { return isSameOrAncestor(p, f); }))

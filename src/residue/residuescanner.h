@@ -29,7 +29,7 @@ public:
         QString programData;
         QString temp;
         QString windowsTemp;
-        QStringList programFiles;
+        QStringList systemFolders; // Program Files and the environment's own Local folder
         // Every folder whose loss would wreck the machine or the profile; no result may be one
         // of them or hold one. The temp folders are left out: the temp pass empties them.
         QStringList protectedFolders() const;

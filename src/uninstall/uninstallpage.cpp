@@ -62,6 +62,13 @@ UninstallPage::UninstallPage(QWidget* parent)
     updateBottomBar();
 }
 
+UninstallPage::~UninstallPage()
+{
+    // The manager, destroyed after this page's own part, waits for its work and may finish it on
+    // this thread; nothing it then reports may reach the half-destroyed page.
+    disconnect(m_manager, nullptr, this, nullptr);
+}
+
 QWidget* UninstallPage::createHeader()
 {
     auto* header = new QWidget(this);

@@ -21,6 +21,7 @@ public:
     enum SortOrder { BySize = 0, ByDate = 1, ByName = 2 };
 
     explicit UninstallPage(QWidget* parent = nullptr);
+    ~UninstallPage() override;
 
     // Called by the main window the first time the page is shown.
     void startFirstLoad();

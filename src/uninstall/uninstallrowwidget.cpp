@@ -40,6 +40,12 @@ UninstallRowWidget::UninstallRowWidget(const InstalledApp& app, QWidget* parent)
     setCursor(Qt::PointingHandCursor);
 }
 
+UninstallRowWidget::~UninstallRowWidget()
+{
+    m_iconFuture.cancel();
+    m_iconFuture.waitForFinished();
+}
+
 QString UninstallRowWidget::removeKind(const QString& status)
 {
     if (status == QLatin1String("nouninstaller"))
@@ -152,7 +158,8 @@ void UninstallRowWidget::loadIcon()
         m_icon.setDevicePixelRatio(qreal(ProgramIcon::Side) / IconShown);
         update();
     });
-    watcher->setFuture(ProgramIcon::loadAsync(m_app));
+    m_iconFuture = ProgramIcon::loadAsync(m_app);
+    watcher->setFuture(m_iconFuture);
 }
 
 void UninstallRowWidget::paintEvent(QPaintEvent*)

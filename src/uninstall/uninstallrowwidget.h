@@ -2,6 +2,8 @@
 
 #include "installedapp.h"
 
+#include <QFuture>
+#include <QImage>
 #include <QPixmap>
 #include <QRect>
 #include <QWidget>
@@ -27,6 +29,9 @@ public:
     static constexpr int ColumnGap = 12;
 
     explicit UninstallRowWidget(const InstalledApp& app, QWidget* parent = nullptr);
+    // Cancels the icon load, or waits for it when it already runs: it reads the platform, which
+    // may go away with the page.
+    ~UninstallRowWidget() override;
 
     const InstalledApp& app() const { return m_app; }
     bool isSelected() const { return m_selected; }
@@ -59,4 +64,5 @@ private:
     bool m_buttonHovered = false;
     bool m_buttonPressed = false;
     QPixmap m_icon;
+    QFuture<QImage> m_iconFuture;
 };

@@ -293,6 +293,8 @@ private slots:
         QFETCH(int, category);
         ResidueScanner scanner;
         QTEST(ResidueScanner::isAllowedTarget(drive() + relative, category, scanner.roots()), "allowed");
+        QVERIFY(!ResidueScanner::isAllowedTarget("\\\\server\\share\\App", 0, scanner.roots()));
+        QVERIFY(!ResidueScanner::isAllowedTarget("Relative/App", 0, scanner.roots()));
     }
 
     // A link inside a residue counts nothing and its target survives the clean; a loop back to
