@@ -451,9 +451,11 @@ void UninstallPage::onUninstallRequested(const InstalledApp& app)
     if (m_batchRunning || m_singleRunning)
         return;
     if (app.status != QLatin1String("nouninstaller") && !app.uninstallString.isEmpty()) {
-        const auto answer = QMessageBox::question(
-            this, tr("Confirm Uninstall"), tr("Uninstall \"%1\"?").arg(app.name), QMessageBox::Yes | QMessageBox::No);
-        if (answer != QMessageBox::Yes)
+        QMessageBox question(QMessageBox::Question, tr("Confirm Uninstall"), tr("Uninstall \"%1\"?").arg(app.name),
+            QMessageBox::Yes | QMessageBox::No, this);
+        // The name is the installer's text, shown as it is, never as markup.
+        question.setTextFormat(Qt::PlainText);
+        if (question.exec() != QMessageBox::Yes)
             return;
         // Runs here and waits for the uninstaller; the result arrives through onUninstallFinished.
         m_singleRunning = true;
