@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -38,6 +39,52 @@ QLabel* label(const QString& text, const QString& style, QWidget* parent)
     l->setStyleSheet(style);
     return l;
 }
+
+// A row the filter hides. Rows the filter keeps are never shown one by one: they appear with their
+// list, which spares a style-sheet polish per row while the list is built.
+bool isFilteredOut(const QWidget* row)
+{
+    return row->testAttribute(Qt::WA_WState_ExplicitShowHide) && row->testAttribute(Qt::WA_WState_Hidden);
+}
+
+// Stacks the visible rows one under the other. A box layout would weigh every row's size
+// constraints on each change; with a thousand rows of one fixed height that is most of the cost
+// of building or filtering the list.
+class RowList final : public QWidget {
+public:
+    static constexpr int SideMargin = 24;
+    static constexpr int EndMargin = 8;
+
+    void setRows(const QList<UninstallRowWidget*>& rows) { m_rows = rows; }
+
+    void relayout()
+    {
+        const int w = qMax(0, width() - 2 * SideMargin);
+        int y = EndMargin;
+        for (UninstallRowWidget* row : std::as_const(m_rows)) {
+            if (isFilteredOut(row))
+                continue;
+            row->setGeometry(SideMargin, y, w, UninstallRowWidget::RowHeight);
+            y += UninstallRowWidget::RowHeight;
+        }
+        const int h = y + EndMargin;
+        if (minimumHeight() != h)
+            setMinimumHeight(h);
+    }
+
+    QSize sizeHint() const override { return QSize(0, minimumHeight()); }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QWidget::resizeEvent(event);
+        if (event->oldSize().width() != width())
+            relayout();
+    }
+
+private:
+    QList<UninstallRowWidget*> m_rows;
+};
 
 } // namespace
 
@@ -201,6 +248,8 @@ QWidget* UninstallPage::createListArea()
     m_scroll->setWidgetResizable(true);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // A fixed viewport width: a bar that comes and goes would move every row once more.
+    m_scroll->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     m_scroll->setStyleSheet(QStringLiteral("QScrollArea { background:#f0f7ff; border:none; }"));
     grid->addWidget(m_scroll, 0, 0);
 
@@ -349,17 +398,18 @@ void UninstallPage::rebuildRows()
     };
     std::stable_sort(m_entries.begin(), m_entries.end(), order);
 
-    // A fresh list widget replaces the old one in one step; the scroll area deletes the old.
-    auto* list = new QWidget;
+    // A fresh list widget replaces the old one in one step. The old one is hidden first: rows
+    // deleted from a shown list each repaint their neighbours' area.
+    if (QWidget* old = m_scroll->takeWidget())
+        delete old;
+    auto* list = new RowList;
+    list->setCursor(Qt::PointingHandCursor);
     list->setObjectName(QStringLiteral("UninstallList"));
     // A palette rather than a style sheet: a sheet here would be matched against every row.
     list->setAutoFillBackground(true);
     QPalette palette = list->palette();
     palette.setColor(QPalette::Window, QColor(0xf0, 0xf7, 0xff));
     list->setPalette(palette);
-    auto* layout = new QVBoxLayout(list);
-    layout->setContentsMargins(24, 8, 24, 8);
-    layout->setSpacing(0);
     m_rows.clear();
     m_rows.reserve(m_entries.size());
     for (int i = 0; i < m_entries.size(); ++i) {
@@ -370,29 +420,29 @@ void UninstallPage::rebuildRows()
             updateBottomBar();
         });
         connect(row, &UninstallRowWidget::uninstallRequested, this, &UninstallPage::onUninstallRequested);
-        layout->addWidget(row);
         m_rows << row;
     }
-    layout->addStretch();
+    list->setRows(m_rows);
+    // Placed while the list is still hidden, at the width it will have: moving a thousand shown
+    // rows costs far more than placing hidden ones.
+    list->resize(m_scroll->viewport()->width(), list->height());
     applyFilter();
     m_scroll->setWidget(list);
 }
 
 void UninstallPage::applyFilter()
 {
-    QWidget* list = m_rows.isEmpty() ? nullptr : m_rows.constFirst()->parentWidget();
-    // One repaint and one layout pass for the whole list, not one per row.
-    if (list)
-        list->setUpdatesEnabled(false);
     for (UninstallRowWidget* row : std::as_const(m_rows)) {
         const InstalledApp& app = row->app();
         const bool byFilter = m_filterKey.isEmpty() || app.status == m_filterKey;
         const bool bySearch = m_search.isEmpty() || app.name.contains(m_search, Qt::CaseInsensitive)
             || app.publisher.contains(m_search, Qt::CaseInsensitive);
-        row->setVisible(byFilter && bySearch);
+        const bool keep = byFilter && bySearch;
+        if (keep == isFilteredOut(row))
+            row->setVisible(keep);
     }
-    if (list)
-        list->setUpdatesEnabled(true);
+    if (!m_rows.isEmpty())
+        static_cast<RowList*>(m_rows.constFirst()->parentWidget())->relayout();
     m_emptyLabel->setVisible(!m_hasInventory);
     updateBottomBar();
 }
@@ -404,7 +454,7 @@ void UninstallPage::updateBottomBar()
     qint64 bytes = 0;
     for (int i = 0; i < m_rows.size(); ++i) {
         // Hidden rows stay ticked but do not count: nothing is uninstalled that is not in view.
-        if (m_rows.at(i)->isHidden())
+        if (isFilteredOut(m_rows.at(i)))
             continue;
         ++shown;
         if (m_rows.at(i)->isSelected()) {
@@ -532,7 +582,7 @@ void UninstallPage::onBatchUninstall()
         return;
     QList<InstalledApp> selected;
     for (const UninstallRowWidget* row : std::as_const(m_rows)) {
-        if (!row->isHidden() && row->isSelected())
+        if (!isFilteredOut(row) && row->isSelected())
             selected << row->app();
     }
     if (selected.isEmpty())

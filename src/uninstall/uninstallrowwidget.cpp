@@ -37,7 +37,6 @@ UninstallRowWidget::UninstallRowWidget(const InstalledApp& app, QWidget* parent)
     setFixedHeight(RowHeight);
     setAttribute(Qt::WA_Hover);
     setMouseTracking(true);
-    setCursor(Qt::PointingHandCursor);
 }
 
 UninstallRowWidget::~UninstallRowWidget()

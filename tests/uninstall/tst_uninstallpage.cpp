@@ -51,7 +51,7 @@ QStringList visibleNames(const UninstallPage& page)
 {
     QStringList list;
     for (const UninstallRowWidget* row : page.rows()) {
-        if (!row->isHidden())
+        if (row->isVisibleTo(&page))
             list << row->app().name;
     }
     return list;
