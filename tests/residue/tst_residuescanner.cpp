@@ -72,6 +72,13 @@ class tst_ResidueScanner : public QObject {
     }
 
 private slots:
+    void initTestCase()
+    {
+        // As the program runs: an organisation folder in the application-data path must not move
+        // the scan away from the Roaming folder itself.
+        QCoreApplication::setOrganizationName("Brightfen");
+        QCoreApplication::setApplicationName("Norvale");
+    }
     void init()
     {
         platform::setCurrent(nullptr);
