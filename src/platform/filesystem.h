@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -13,6 +14,13 @@ struct EmptyFolderResult {
     std::uint64_t removed = 0; // entries that are gone
     std::uint64_t failed = 0; // entries that stayed (in use, protected, or not listable)
     std::uint32_t firstError = 0; // errno or Win32 error of the first failure, 0 if none
+};
+
+// What a walk with a file budget saw.
+struct FolderMeasure {
+    std::int64_t bytes = 0;
+    std::uint64_t files = 0; // regular files counted
+    bool complete = false; // false when the budget or the stop flag ended the walk early
 };
 
 // Metadata walks and link-safe deletion inside folders.
@@ -42,6 +50,18 @@ public:
     // stays; inside its sub-folders, where whole trees are being removed, a read-only file is
     // made writable and deleted. A link, wherever it is met, is deleted as itself.
     virtual EmptyFolderResult emptyFolder(const std::wstring& folder) = 0;
+
+    // folderSize with a budget: counts at most `maxFiles` files and gives up as soon as `stop`
+    // (when not null) reads true. A survey of hundreds of folders stays quick this way; its
+    // figures are lower bounds for folders larger than the budget.
+    virtual FolderMeasure measureFolder(
+        const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop)
+        = 0;
+
+    // Deletes `folder` itself with everything inside, by the rules of emptyFolder. The folder goes
+    // last and only when nothing inside stayed; `removed` counts it too. A link, a file or a
+    // drive root is not removed (opened is false).
+    virtual EmptyFolderResult removeFolder(const std::wstring& folder) = 0;
 };
 
 } // namespace platform
