@@ -86,6 +86,15 @@ public:
             ++overlaps;
         return m_inner.folderSize(folder);
     }
+    platform::FolderMeasure measureFolder(
+        const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop) override
+    {
+        return m_inner.measureFolder(folder, maxFiles, stop);
+    }
+    platform::EmptyFolderResult removeFolder(const std::wstring& folder) override
+    {
+        return m_inner.removeFolder(folder);
+    }
     platform::EmptyFolderResult emptyFolder(const std::wstring& folder) override
     {
         ++m_emptying;
