@@ -40,6 +40,11 @@ public:
     // they hold; what cannot be deleted stays (with the folders that lead to it) and the rest
     // goes on. A file's read-only attribute is left as it is, so on Windows such files stay.
     virtual EmptyFolderResult emptyFolder(const std::wstring& folder) = 0;
+
+    // Deletes `folder` with everything in it, as emptyFolder does, then the folder itself. True
+    // when the folder is gone afterwards; false, touching nothing, when `folder` is not a real
+    // folder (missing, a file, a link, or outside what the implementation may delete).
+    virtual bool removeFolder(const std::wstring& folder) = 0;
 };
 
 } // namespace platform

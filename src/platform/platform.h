@@ -10,6 +10,7 @@ class FileSystem;
 class IconExtractor;
 class Launcher;
 class Registry;
+class Services;
 class SystemCounters;
 class WindowFrame;
 
@@ -26,6 +27,7 @@ public:
     virtual FileSystem& fileSystem() = 0;
     virtual Launcher& launcher() = 0;
     virtual IconExtractor& icons() = 0;
+    virtual Services& services() = 0;
 
     // Empty on Windows; the sandbox folder otherwise.
     virtual std::wstring sandboxRoot() const = 0;

@@ -8,6 +8,7 @@
 #include "sandboxiconextractor.h"
 #include "sandboxlauncher.h"
 #include "sandboxregistry.h"
+#include "sandboxservices.h"
 
 #include <sys/stat.h>
 
@@ -49,6 +50,7 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
     m_fileSystem = std::make_unique<SandboxFileSystem>(m_root);
     m_launcher = std::make_unique<SandboxLauncher>(m_root, m_registry.get());
     m_icons = std::make_unique<SandboxIconExtractor>(m_root);
+    m_services = std::make_unique<SandboxServices>(m_registry.get());
 }
 
 SandboxPlatform::~SandboxPlatform() = default;
@@ -80,6 +82,10 @@ Launcher& SandboxPlatform::launcher()
 IconExtractor& SandboxPlatform::icons()
 {
     return *m_icons;
+}
+Services& SandboxPlatform::services()
+{
+    return *m_services;
 }
 std::wstring SandboxPlatform::sandboxRoot() const
 {

@@ -6,6 +6,7 @@
 #include "winiconextractor.h"
 #include "winlauncher.h"
 #include "winregistry.h"
+#include "winservices.h"
 #include "winwindowframe.h"
 
 namespace platform {
@@ -18,6 +19,7 @@ WinPlatform::WinPlatform()
     , m_fileSystem(std::make_unique<WinFileSystem>())
     , m_launcher(std::make_unique<WinLauncher>())
     , m_icons(std::make_unique<WinIconExtractor>())
+    , m_services(std::make_unique<WinServices>())
 {
 }
 
@@ -50,6 +52,11 @@ Launcher& WinPlatform::launcher()
 IconExtractor& WinPlatform::icons()
 {
     return *m_icons;
+}
+
+Services& WinPlatform::services()
+{
+    return *m_services;
 }
 
 } // namespace platform
