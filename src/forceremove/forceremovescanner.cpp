@@ -255,11 +255,15 @@ private:
         }
     }
 
-    bool listed(const QString& path) const
+    // The same folder reached twice (two candidates, or the install folder again) is listed once,
+    // however its path is spelled.
+    bool listed(const QString& folder) const
     {
-        const QString lower = path.toLower();
-        return std::any_of(
-            m_items.begin(), m_items.end(), [&](const ForceRemoveItem& i) { return i.path.toLower() == lower; });
+        const std::wstring key = traces::normalizePath(ws(localPath(folder)));
+        return std::any_of(m_items.begin(), m_items.end(), [&](const ForceRemoveItem& item) {
+            return (item.kind == ForceRemoveKind::InstallDir || item.kind == ForceRemoveKind::AppData)
+                && traces::normalizePath(ws(localPath(item.path))) == key;
+        });
     }
 
     // Step D.
