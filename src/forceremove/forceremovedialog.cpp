@@ -41,6 +41,13 @@ QLabel* makeLabel(const QString& text, const QString& style, QWidget* parent, co
     return label;
 }
 
+// Rich text folds runs of spaces; the summaries keep the two spaces around their dot.
+QString keepSpaces(const QString& richText)
+{
+    QString text = richText;
+    return text.replace(QStringLiteral("  "), QStringLiteral("&nbsp; "));
+}
+
 QProgressBar* makeProgress(QWidget* parent, const char* objectName)
 {
     auto* bar = new QProgressBar(parent);
@@ -316,9 +323,9 @@ void ForceRemoveDialog::onScanFinished(qint64 totalBytes)
         m_summary->setText(tr("Nothing found to remove"));
         m_emptyLabel->show();
     } else {
-        m_summary->setText(tr("Found <b>%1</b> items  ·  <b>%2</b> reclaimable")
-                               .arg(items.size())
-                               .arg(UninstallManager::formatSize(totalBytes)));
+        m_summary->setText(keepSpaces(tr("Found <b>%1</b> items  ·  <b>%2</b> reclaimable")
+                                          .arg(items.size())
+                                          .arg(UninstallManager::formatSize(totalBytes))));
     }
     m_primary->setEnabled(!items.isEmpty());
     m_views->setCurrentIndex(ListView);
@@ -364,7 +371,8 @@ void ForceRemoveDialog::onExecuteFinished(qint64 freedBytes)
 {
     m_done = true;
     m_views->setCurrentIndex(DoneView);
-    m_summary->setText(tr("Force remove complete  ·  freed <b>%1</b>").arg(UninstallManager::formatSize(freedBytes)));
+    m_summary->setText(
+        keepSpaces(tr("Force remove complete  ·  freed <b>%1</b>").arg(UninstallManager::formatSize(freedBytes))));
     m_primary->setText(tr("Done ✓"));
     m_primary->setObjectName(QStringLiteral("FRDoneButton"));
     m_primary->setStyleSheet(

@@ -163,8 +163,8 @@ private slots:
         QSignalSpy scanned(dialog->scanner(), &ForceRemoveScanner::scanFinished);
         QVERIFY(arrived(scanned));
         QCOMPARE(dialog->rows().size(), 3);
-        QCOMPARE(
-            label(dialog, "FRSummary")->text(), QStringLiteral("Found <b>3</b> items  ·  <b>2 MB</b> reclaimable"));
+        QCOMPARE(label(dialog, "FRSummary")->text(),
+            QStringLiteral("Found <b>3</b> items&nbsp; ·&nbsp; <b>2 MB</b> reclaimable"));
 
         // Nothing checked: the button does nothing.
         QTest::mouseClick(button(dialog, QStringLiteral("Deselect All")), Qt::LeftButton);
@@ -187,7 +187,8 @@ private slots:
         QVERIFY(!primary->isEnabled());
         QVERIFY(arrived(executed));
         QCOMPARE(dialog->currentView(), ForceRemoveDialog::DoneView);
-        QCOMPARE(label(dialog, "FRSummary")->text(), QStringLiteral("Force remove complete  ·  freed <b>2 MB</b>"));
+        QCOMPARE(label(dialog, "FRSummary")->text(),
+            QStringLiteral("Force remove complete&nbsp; ·&nbsp; freed <b>2 MB</b>"));
         QCOMPARE(primary->text(), QStringLiteral("Done ✓"));
         QVERIFY(primary->isEnabled());
         for (const QStringList& call : tools->calls())

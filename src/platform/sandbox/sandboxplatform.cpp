@@ -11,6 +11,7 @@
 #include "sandboxservices.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform {
 
@@ -42,6 +43,13 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
 {
     while (m_root.size() > 1 && m_root.back() == L'/')
         m_root.pop_back();
+    // Anchored, so that every path mapped into the sandbox is absolute whatever the process's
+    // working folder becomes.
+    if (!m_root.empty() && m_root[0] != L'/') {
+        char cwd[4096];
+        if (::getcwd(cwd, sizeof cwd))
+            m_root = fromUtf8(cwd) + L"/" + m_root;
+    }
     makeDirs(toUtf8(m_root + L"/C"));
     m_registry = std::make_unique<SandboxRegistry>(toUtf8(m_root + L"/" + registryFileName()));
     m_environment = std::make_unique<SandboxEnvironment>(m_root);
