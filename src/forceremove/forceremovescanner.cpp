@@ -12,7 +12,6 @@
 
 #include <QDebug>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QMutex>
@@ -47,6 +46,7 @@ constexpr std::size_t DisplayNameBytes = 2048;
 constexpr std::size_t RunValueNameChars = 512;
 constexpr std::size_t RunValueDataBytes = 4096;
 constexpr int StartupLabelDataChars = 60;
+constexpr int MaxImageDepth = 64; // deeper trees are not an install folder's own
 constexpr qint64 MiB = 1024 * 1024;
 
 const wchar_t* const UninstallPaths[] = {
@@ -193,23 +193,34 @@ private:
         }
         QStringList images;
         QSet<QString> seen;
-        if (machine().fileSystem().isFolder(ws(folder))) {
-            QDirIterator it(folder, { QStringLiteral("*.exe") }, QDir::Files | QDir::Hidden | QDir::System,
-                QDirIterator::Subdirectories);
-            while (it.hasNext() && live()) {
-                const QString image = it.nextFileInfo().fileName();
-                if (!seen.contains(image.toLower())) {
-                    seen.insert(image.toLower());
-                    images.append(image);
-                }
-            }
-        }
+        if (machine().fileSystem().isFolder(ws(folder)))
+            collectImages(folder, 0, images, seen);
         for (const QString& image : std::as_const(images)) {
             if (!live())
                 return;
             runTool(QStringLiteral("taskkill"), { QStringLiteral("/F"), QStringLiteral("/IM"), image });
         }
         QThread::msleep(KillSettleMs);
+    }
+
+    // Executable names anywhere below `folder`, descending only into real sub-folders: a link or
+    // junction inside the install folder must not lead taskkill to another program's images.
+    void collectImages(const QString& folder, int depth, QStringList& images, QSet<QString>& seen) const
+    {
+        if (depth > MaxImageDepth || !live())
+            return;
+        const QStringList names = QDir(folder).entryList(
+            { QStringLiteral("*.exe") }, QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks);
+        for (const QString& name : names) {
+            if (!seen.contains(name.toLower())) {
+                seen.insert(name.toLower());
+                images.append(name);
+            }
+        }
+        if (const auto subFolders = machine().fileSystem().subFolders(ws(folder))) {
+            for (const std::wstring& sub : *subFolders)
+                collectImages(folder + QLatin1Char('/') + qs(sub), depth + 1, images, seen);
+        }
     }
 
     // Step B.

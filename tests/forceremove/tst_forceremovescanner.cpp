@@ -179,6 +179,9 @@ private slots:
         QFile keep(outside.path() + QStringLiteral("/keep.doc"));
         QVERIFY(keep.open(QIODevice::WriteOnly) && keep.write("precious") == 8);
         keep.close();
+        QFile otherProgram(outside.path() + QStringLiteral("/other.exe"));
+        QVERIFY(otherProgram.open(QIODevice::WriteOnly));
+        otherProgram.close();
         QVERIFY(QFile::link(outside.path(), m.local(Install + QStringLiteral("\\bin\\outside"))));
         m.setProcesses({});
 
@@ -186,6 +189,8 @@ private slots:
         scanner.setToolRunner(tools);
         const ScanRun run = scan(scanner, fooApp());
         QCOMPARE(run.items.size(), 12);
+        for (const QStringList& call : tools->calls())
+            QVERIFY2(!call.contains(QStringLiteral("other.exe")), "taskkill followed the link");
 
         QSignalSpy progress(&scanner, &ForceRemoveScanner::executeProgress);
         QSignalSpy finished(&scanner, &ForceRemoveScanner::executeFinished);
