@@ -9,6 +9,8 @@ class Environment;
 class FileSystem;
 class IconExtractor;
 class Launcher;
+class Processes;
+class PackageCatalogue;
 class Registry;
 class Services;
 class SystemCounters;
@@ -28,6 +30,8 @@ public:
     virtual Launcher& launcher() = 0;
     virtual IconExtractor& icons() = 0;
     virtual Services& services() = 0;
+    virtual Processes& processes() = 0;
+    virtual PackageCatalogue& packages() = 0;
 
     // Empty on Windows; the sandbox folder otherwise.
     virtual std::wstring sandboxRoot() const = 0;

@@ -7,6 +7,8 @@
 #include "sandboxfilesystem.h"
 #include "sandboxiconextractor.h"
 #include "sandboxlauncher.h"
+#include "sandboxpackagecatalogue.h"
+#include "sandboxprocesses.h"
 #include "sandboxregistry.h"
 #include "sandboxservices.h"
 
@@ -59,6 +61,8 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
     m_launcher = std::make_unique<SandboxLauncher>(m_root, m_registry.get());
     m_icons = std::make_unique<SandboxIconExtractor>(m_root);
     m_services = std::make_unique<SandboxServices>(m_registry.get());
+    m_processes = std::make_unique<SandboxProcesses>(m_root, *m_environment);
+    m_packages = std::make_unique<SandboxPackageCatalogue>(m_root);
 }
 
 SandboxPlatform::~SandboxPlatform() = default;
@@ -94,6 +98,14 @@ IconExtractor& SandboxPlatform::icons()
 Services& SandboxPlatform::services()
 {
     return *m_services;
+}
+Processes& SandboxPlatform::processes()
+{
+    return *m_processes;
+}
+PackageCatalogue& SandboxPlatform::packages()
+{
+    return *m_packages;
 }
 std::wstring SandboxPlatform::sandboxRoot() const
 {

@@ -14,6 +14,8 @@ class SandboxFileSystem;
 class SandboxLauncher;
 class SandboxIconExtractor;
 class SandboxServices;
+class SandboxProcesses;
+class SandboxPackageCatalogue;
 class NullWindowFrame;
 
 // A machine in one folder: "<root>/C" is the system drive and "<root>/registry.reg" the registry.
@@ -32,6 +34,8 @@ public:
     Launcher& launcher() override;
     IconExtractor& icons() override;
     Services& services() override;
+    Processes& processes() override;
+    PackageCatalogue& packages() override;
     std::wstring sandboxRoot() const override;
 
     static std::wstring registryFileName() { return L"registry.reg"; }
@@ -46,6 +50,8 @@ private:
     std::unique_ptr<SandboxLauncher> m_launcher;
     std::unique_ptr<SandboxIconExtractor> m_icons;
     std::unique_ptr<SandboxServices> m_services;
+    std::unique_ptr<SandboxProcesses> m_processes;
+    std::unique_ptr<SandboxPackageCatalogue> m_packages;
 };
 
 } // namespace platform

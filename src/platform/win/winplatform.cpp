@@ -5,6 +5,8 @@
 #include "winfilesystem.h"
 #include "winiconextractor.h"
 #include "winlauncher.h"
+#include "winpackagecatalogue.h"
+#include "winprocesses.h"
 #include "winregistry.h"
 #include "winservices.h"
 #include "winwindowframe.h"
@@ -20,6 +22,8 @@ WinPlatform::WinPlatform()
     , m_launcher(std::make_unique<WinLauncher>())
     , m_icons(std::make_unique<WinIconExtractor>())
     , m_services(std::make_unique<WinServices>())
+    , m_processes(std::make_unique<WinProcesses>())
+    , m_packages(std::make_unique<WinPackageCatalogue>())
 {
 }
 
@@ -52,6 +56,14 @@ Launcher& WinPlatform::launcher()
 IconExtractor& WinPlatform::icons()
 {
     return *m_icons;
+}
+Processes& WinPlatform::processes()
+{
+    return *m_processes;
+}
+PackageCatalogue& WinPlatform::packages()
+{
+    return *m_packages;
 }
 
 Services& WinPlatform::services()

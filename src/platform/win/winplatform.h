@@ -14,6 +14,8 @@ class WinFileSystem;
 class WinLauncher;
 class WinIconExtractor;
 class WinServices;
+class WinProcesses;
+class WinPackageCatalogue;
 
 // The real machine, through Win32.
 class WinPlatform final : public Platform {
@@ -29,6 +31,8 @@ public:
     Launcher& launcher() override;
     IconExtractor& icons() override;
     Services& services() override;
+    Processes& processes() override;
+    PackageCatalogue& packages() override;
     std::wstring sandboxRoot() const override { return std::wstring(); }
 
 private:
@@ -40,6 +44,8 @@ private:
     std::unique_ptr<WinLauncher> m_launcher;
     std::unique_ptr<WinIconExtractor> m_icons;
     std::unique_ptr<WinServices> m_services;
+    std::unique_ptr<WinProcesses> m_processes;
+    std::unique_ptr<WinPackageCatalogue> m_packages;
 };
 
 } // namespace platform
