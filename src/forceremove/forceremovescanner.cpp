@@ -188,7 +188,7 @@ private:
                 return;
             if (traces::startsWithPathNoCase(process.imagePath, ws(folder))) {
                 qDebug() << "[ForceRemove] Killing:" << qs(process.imagePath) << "PID:" << process.pid;
-                processes.terminate(process.pid);
+                processes.terminate(process.pid, 0);
             }
         }
         QStringList images;

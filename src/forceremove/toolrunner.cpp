@@ -84,7 +84,7 @@ ToolResult SandboxToolRunner::taskkill(const QStringList& arguments)
     bool ended = false;
     for (const platform::ProcessInfo& process : processes.snapshot()) {
         if (platform::equalsNoCase(process.imageName, image))
-            ended = processes.terminate(process.pid) || ended;
+            ended = processes.terminate(process.pid, 1) == platform::Termination::Terminated || ended;
     }
     return finishedWith(ended ? 0 : NotFoundExitCode);
 }

@@ -43,8 +43,13 @@ public:
 
     // Deletes `folder` with everything in it, as emptyFolder does, then the folder itself. True
     // when the folder is gone afterwards; false, touching nothing, when `folder` is not a real
-    // folder (missing, a file, a link, or outside what the implementation may delete).
-    virtual bool removeFolder(const std::wstring& folder) = 0;
+    // folder (missing, a file, a link, or outside what the implementation may delete). A file
+    // system that does not implement it (a test double) removes nothing.
+    virtual bool removeFolder(const std::wstring& folder)
+    {
+        (void)folder;
+        return false;
+    }
 };
 
 } // namespace platform

@@ -35,11 +35,6 @@ public:
     std::uint64_t tickCount() const override { return ticks; }
 
     platform::SystemCounters& counters() override { return *this; }
-    platform::FileSystem& fileSystem() override { return m_sandbox.fileSystem(); }
-    platform::Launcher& launcher() override { return m_sandbox.launcher(); }
-    platform::IconExtractor& icons() override { return m_sandbox.icons(); }
-    platform::Services& services() override { return m_sandbox.services(); }
-    std::wstring sandboxRoot() const override { return m_sandbox.sandboxRoot(); }
 
 private:
     QTemporaryDir m_dir;

@@ -166,7 +166,7 @@ TEST_F(ForceRemoveEndToEnd, FindsEachTraceAndRemovesItWhileTheProgramBesideItSta
     int ended = 0;
     for (const platform::ProcessInfo& process : p.processes().snapshot()) {
         if (traces::startsWithPathNoCase(process.imagePath, location)) {
-            EXPECT_TRUE(p.processes().terminate(process.pid));
+            EXPECT_EQ(p.processes().terminate(process.pid, 0), platform::Termination::Terminated);
             ++ended;
         }
     }
