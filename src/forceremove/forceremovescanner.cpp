@@ -343,11 +343,13 @@ private:
             QDir::fromNativeSeparators(qs(env.roamingAppData())) + startupPath,
             QDir::fromNativeSeparators(qs(env.programData())) + startupPath,
         };
+        // Qt counts Windows shortcuts as links, so links are not filtered out here; removing one
+        // removes the link file itself.
         for (const QString& folder : folders) {
             if (!machine().fileSystem().isFolder(ws(folder)))
                 continue;
             const QFileInfoList shortcuts = QDir(folder).entryInfoList({ QStringLiteral("*.lnk") },
-                QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks, QDir::Unsorted);
+                QDir::Files | QDir::Hidden | QDir::System, QDir::Unsorted);
             for (const QFileInfo& shortcut : shortcuts) {
                 if (!live())
                     return;
