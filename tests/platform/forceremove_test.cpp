@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 using platform::Hive;
 namespace traces = platform::traces;
@@ -214,6 +215,31 @@ TEST_F(ProtectedLocations, EveryNamedPlaceAndItsAncestorsAreRefusedInAnySpelling
         SCOPED_TRACE(what);
         EXPECT_FALSE(traces::isProtectedLocation(location, m_env));
     }
+}
+
+// A user who moved Documents to another drive: the folder that now holds it is refused too.
+class MovedDocuments final : public platform::Environment {
+public:
+    std::wstring systemDriveRoot() const override { return L"C:/"; }
+    std::wstring mapPath(const std::wstring& path) const override { return path; }
+    std::optional<std::wstring> variable(const std::wstring& name) const override
+    {
+        return name == L"USERPROFILE" ? std::optional<std::wstring>(L"C:\\Users\\Ann") : std::nullopt;
+    }
+    std::wstring expand(const std::wstring& text) const override { return text; }
+    std::wstring userFolder(platform::UserFolder which) const override
+    {
+        return which == platform::UserFolder::Documents ? L"D:\\Sync\\Ann\\Documents" : L"";
+    }
+};
+
+TEST(ProtectedLocationsElsewhere, AFolderHoldingAMovedKnownFolderIsRefused)
+{
+    const MovedDocuments env;
+    EXPECT_TRUE(traces::isProtectedLocation(L"D:\\Sync\\Ann", env));
+    EXPECT_TRUE(traces::isProtectedLocation(L"d:/sync/ann/documents/", env));
+    EXPECT_FALSE(traces::isProtectedLocation(L"D:\\Sync\\Ann\\Documents\\Old Setup", env));
+    EXPECT_FALSE(traces::isProtectedLocation(L"D:\\Sync\\Bob", env));
 }
 
 TEST(TraceRules, AppDataCandidatesAreDistinctPlainFolderNames)
