@@ -5,6 +5,9 @@
 
 namespace platform {
 
+// Folders of the user that Windows keeps as known folders and the user may move elsewhere.
+enum class UserFolder { Desktop, Documents, Downloads };
+
 // Where the machine's well-known places are. On Windows these are the real ones ("C:/" and the
 // process environment); the sandbox maps them into its own tree so nothing outside it is touched.
 // Paths use forward slashes and folders end without a slash, except the drive root ("C:/").
@@ -21,6 +24,12 @@ public:
     virtual std::optional<std::wstring> variable(const std::wstring& name) const = 0;
     // %NAME% expansion as ExpandEnvironmentStringsW does it: unknown names stay as written.
     virtual std::wstring expand(const std::wstring& text) const = 0;
+
+    // Where the user's folder is now, wherever it was moved; empty when it cannot be told.
+    virtual std::wstring userFolder(UserFolder which) const = 0;
+    std::wstring windowsFolder() const { return variable(L"SystemRoot").value_or(std::wstring()); }
+    std::wstring programFiles() const { return variable(L"ProgramFiles").value_or(std::wstring()); }
+    std::wstring programFilesX86() const { return variable(L"ProgramFiles(x86)").value_or(std::wstring()); }
 
     std::wstring userProfile() const { return variable(L"USERPROFILE").value_or(std::wstring()); }
     std::wstring roamingAppData() const { return variable(L"APPDATA").value_or(std::wstring()); }

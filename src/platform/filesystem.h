@@ -23,6 +23,12 @@ struct FolderMeasure {
     bool complete = false; // false when the budget or the stop flag ended the walk early
 };
 
+// Whether removeFolder took the folder away whole.
+inline bool removedWhole(const EmptyFolderResult& result)
+{
+    return result.opened && result.failed == 0;
+}
+
 // Metadata walks and link-safe deletion inside folders.
 //
 // None of these ever enters a symbolic link, junction, mount point or other reparse point: a link

@@ -24,6 +24,7 @@ public:
     IconExtractor& icons() override { return m_inner.icons(); }
     Processes& processes() override { return m_inner.processes(); }
     PackageCatalogue& packages() override { return m_inner.packages(); }
+    Services& services() override { return m_inner.services(); }
     std::wstring sandboxRoot() const override { return m_inner.sandboxRoot(); }
 
 protected:

@@ -12,6 +12,7 @@ class Launcher;
 class Processes;
 class PackageCatalogue;
 class Registry;
+class Services;
 class SystemCounters;
 class WindowFrame;
 
@@ -28,6 +29,7 @@ public:
     virtual FileSystem& fileSystem() = 0;
     virtual Launcher& launcher() = 0;
     virtual IconExtractor& icons() = 0;
+    virtual Services& services() = 0;
     virtual Processes& processes() = 0;
     virtual PackageCatalogue& packages() = 0;
 

@@ -3,11 +3,11 @@
 #include "uninstallmanager.h"
 #include "uninstallrowwidget.h"
 
+#include <forceremove/forceremovedialog.h>
 #include <residue/residuedialog.h>
 
 #include <QComboBox>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -642,17 +642,8 @@ void UninstallPage::openResidueDialogForHistory()
 
 void UninstallPage::openForceRemove(const InstalledApp& app)
 {
-    // Stands in for the force-remove dialog until that feature is built.
-    QDialog dialog(this);
-    dialog.setObjectName(QStringLiteral("ForceRemovePlaceholder"));
-    dialog.setWindowTitle(tr("Force Remove"));
-    auto* layout = new QVBoxLayout(&dialog);
-    auto* text
-        = new QLabel(tr("Force removal of <b>%1</b> is not available yet.").arg(app.name.toHtmlEscaped()), &dialog);
-    text->setTextFormat(Qt::RichText);
-    layout->addWidget(text);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
-    connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    layout->addWidget(buttons);
-    dialog.exec();
+    // The dialog deletes itself once closed; exec() keeps it alive until it returns.
+    auto* dialog = new ForceRemoveDialog(app, this);
+    if (dialog->exec() == QDialog::Accepted)
+        onRefreshClicked(); // the program is gone: the list should say so
 }

@@ -248,4 +248,33 @@ TEST_F(FileSystemContract, TheSandboxReachesNothingOutsideItsRoot)
 }
 #endif
 
+// Force removal takes the install folder itself, and still only what lies inside it.
+TEST_F(FileSystemContract, RemovingAFolderTakesItWholeButNeverALinkedTarget)
+{
+    write("sandbox/app/bin/app.exe", 300);
+    write("sandbox/app/.hidden", 2);
+    write("sandbox/beside/keep.txt", 9);
+    write("outside/precious/keep.doc", 5000);
+    ASSERT_TRUE(makeLink(m_base / "outside/precious", m_base / "sandbox/app/bin/link"));
+    ASSERT_TRUE(makeLink(m_base / "outside/precious", m_base / "sandbox/linked-app"));
+
+    EXPECT_FALSE(m_fs.removeFolder(path("sandbox/linked-app")).opened); // a link is not a folder to remove
+    EXPECT_TRUE(isLink(m_base / "sandbox/linked-app"));
+    EXPECT_FALSE(m_fs.removeFolder(path("sandbox/missing")).opened);
+
+    const bool removed = platform::removedWhole(m_fs.removeFolder(path("sandbox/app/")));
+    // Wine 8 cannot remove a Unix link with RemoveDirectoryW, so there the link and its folders stay.
+    EXPECT_EQ(removed, !fs::exists(m_base / "sandbox/app"));
+    EXPECT_EQ(removed, !isLink(m_base / "sandbox/app/bin/link"));
+    EXPECT_FALSE(fs::exists(m_base / "sandbox/app/bin/app.exe"));
+    EXPECT_EQ(fs::file_size(m_base / "outside/precious/keep.doc"), 5000u);
+    EXPECT_TRUE(fs::exists(m_base / "sandbox/beside/keep.txt"));
+#ifndef _WIN32
+    EXPECT_TRUE(removed);
+    EXPECT_FALSE(m_fs.removeFolder(path("sandbox")).opened); // the sandbox root is never removed
+    EXPECT_FALSE(platform::removedWhole(m_fs.removeFolder(path("sandbox/../outside"))));
+    EXPECT_TRUE(fs::exists(m_base / "outside/precious/keep.doc"));
+#endif
+}
+
 } // namespace

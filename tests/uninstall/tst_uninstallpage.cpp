@@ -224,10 +224,10 @@ private slots:
                                                              << "u.exe" << QStringList { "Confirm Uninstall" };
         QTest::newRow("no uninstaller: straight to force removal")
             << "nouninstaller"
-            << "" << QStringList { "No Uninstaller Found", "ForceRemovePlaceholder" };
+            << "" << QStringList { "No Uninstaller Found", "Force Remove" };
         QTest::newRow("empty command despite its status")
             << "old"
-            << "" << QStringList { "No Uninstaller Found", "ForceRemovePlaceholder" };
+            << "" << QStringList { "No Uninstaller Found", "Force Remove" };
     }
     void removeAsksTheRightQuestion()
     {
@@ -239,7 +239,7 @@ private slots:
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));
         ModalScript script(status == "ok" ? QList<ModalScript::Step> { press("No") }
-                                          : QList<ModalScript::Step> { press("Force Remove…"), press("Close") });
+                                          : QList<ModalScript::Step> { press("Force Remove…"), press("Cancel") });
         UninstallRowWidget* row = page.rows().at(0);
         QTest::mouseClick(row, Qt::LeftButton, {}, row->removeButtonRect().center());
         QVERIFY(!row->isSelected());
@@ -251,8 +251,7 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("modals");
-        QTest::newRow("program still listed")
-            << "Steam" << QStringList { "Uninstall Failed", "ForceRemovePlaceholder" };
+        QTest::newRow("program still listed") << "Steam" << QStringList { "Uninstall Failed", "Force Remove" };
         QTest::newRow("program gone from the list") << "Ghost" << QStringList { "Uninstall Failed", "Not Found" };
     }
     void failedUninstallOffersForceRemoval()
@@ -260,7 +259,7 @@ private slots:
         QFETCH(QString, name);
         UninstallPage page;
         page.showApps({ app("Steam", "Valve", 1, "") });
-        ModalScript script({ press("Force Remove…"), press(name == "Ghost" ? "OK" : "Close") });
+        ModalScript script({ press("Force Remove…"), press(name == "Ghost" ? "OK" : "Cancel") });
         page.onUninstallFinished(name, false);
         QTEST(script.seen, "modals");
         QCOMPARE(page.findChild<QLabel*>("UninstallStatusLabel")->text(),

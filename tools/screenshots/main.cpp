@@ -3,6 +3,8 @@
 // Usage: norvale-screenshots <output-folder>
 
 #include "app/startup.h"
+#include "forceremove/forceremovedialog.h"
+#include "forceremove/forceremovescanner.h"
 #include "shell/mainwindow.h"
 
 #include <QApplication>
@@ -10,6 +12,8 @@
 #include <QEventLoop>
 #include <QMenu>
 #include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 
 #include "residue/residuedialog.h"
@@ -90,6 +94,31 @@ int main(int argc, char* argv[])
     if (!window.grab().save(QStringLiteral("%1/1-cleanup-full.png").arg(outDir)))
         ++failures;
     window.resize(normalSize);
+
+    // The force-remove dialog's list for the demo program that has no uninstaller.
+    {
+        InstalledApp app;
+        app.name = QStringLiteral("Driftwood Sync");
+        app.publisher = QStringLiteral("Driftwood Labs");
+        app.installLocation = QStringLiteral("C:\\Program Files\\Driftwood Sync");
+        auto* dialog = new ForceRemoveDialog(app, &window);
+        QEventLoop scanned;
+        QObject::connect(dialog->scanner(), &ForceRemoveScanner::scanFinished, &scanned, &QEventLoop::quit);
+        QTimer::singleShot(envInt("NORVALE_SHOT_FORCEREMOVE_MS", 15000), &scanned, &QEventLoop::quit);
+        dialog->show();
+        scanned.exec();
+        wait(300);
+        if (!dialog->grab().save(QStringLiteral("%1/2-uninstall-forceremove.png").arg(outDir)))
+            ++failures;
+        // The end of the list, where the high-risk rows are.
+        if (auto* list = dialog->findChild<QScrollArea*>(QStringLiteral("FRList"))) {
+            list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum());
+            wait(100);
+            if (!dialog->grab().save(QStringLiteral("%1/2-uninstall-forceremove-end.png").arg(outDir)))
+                ++failures;
+        }
+        dialog->close();
+    }
 
     // The application menu, opened over the dashboard.
     window.navigateTo(MainWindow::Dashboard);

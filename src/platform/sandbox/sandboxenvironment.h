@@ -22,6 +22,7 @@ public:
     // Sets a variable for this environment alone, or removes it (nullopt), as
     // SetEnvironmentVariableW does for a process.
     void setVariable(const std::wstring& name, const std::optional<std::wstring>& value);
+    std::wstring userFolder(UserFolder which) const override;
 
 private:
     std::wstring m_drive; // "<root>/C"

@@ -10,8 +10,10 @@
 #include "sandboxpackagecatalogue.h"
 #include "sandboxprocesses.h"
 #include "sandboxregistry.h"
+#include "sandboxservices.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform {
 
@@ -43,6 +45,13 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
 {
     while (m_root.size() > 1 && m_root.back() == L'/')
         m_root.pop_back();
+    // Anchored, so that every path mapped into the sandbox is absolute whatever the process's
+    // working folder becomes.
+    if (!m_root.empty() && m_root[0] != L'/') {
+        char cwd[4096];
+        if (::getcwd(cwd, sizeof cwd))
+            m_root = fromUtf8(cwd) + L"/" + m_root;
+    }
     makeDirs(toUtf8(m_root + L"/C"));
     m_registry = std::make_unique<SandboxRegistry>(toUtf8(m_root + L"/" + registryFileName()));
     m_environment = std::make_unique<SandboxEnvironment>(m_root);
@@ -51,6 +60,7 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
     m_fileSystem = std::make_unique<SandboxFileSystem>(m_root);
     m_launcher = std::make_unique<SandboxLauncher>(m_root, m_registry.get());
     m_icons = std::make_unique<SandboxIconExtractor>(m_root);
+    m_services = std::make_unique<SandboxServices>(m_registry.get());
     m_processes = std::make_unique<SandboxProcesses>(m_root, *m_environment);
     m_packages = std::make_unique<SandboxPackageCatalogue>(m_root);
 }
@@ -84,6 +94,10 @@ Launcher& SandboxPlatform::launcher()
 IconExtractor& SandboxPlatform::icons()
 {
     return *m_icons;
+}
+Services& SandboxPlatform::services()
+{
+    return *m_services;
 }
 Processes& SandboxPlatform::processes()
 {

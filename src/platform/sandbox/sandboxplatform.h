@@ -13,6 +13,7 @@ class SandboxSystemCounters;
 class SandboxFileSystem;
 class SandboxLauncher;
 class SandboxIconExtractor;
+class SandboxServices;
 class SandboxProcesses;
 class SandboxPackageCatalogue;
 class NullWindowFrame;
@@ -32,6 +33,7 @@ public:
     FileSystem& fileSystem() override;
     Launcher& launcher() override;
     IconExtractor& icons() override;
+    Services& services() override;
     Processes& processes() override;
     PackageCatalogue& packages() override;
     std::wstring sandboxRoot() const override;
@@ -47,6 +49,7 @@ private:
     std::unique_ptr<SandboxFileSystem> m_fileSystem;
     std::unique_ptr<SandboxLauncher> m_launcher;
     std::unique_ptr<SandboxIconExtractor> m_icons;
+    std::unique_ptr<SandboxServices> m_services;
     std::unique_ptr<SandboxProcesses> m_processes;
     std::unique_ptr<SandboxPackageCatalogue> m_packages;
 };

@@ -14,6 +14,7 @@ public:
     std::optional<std::wstring> variable(const std::wstring& name) const override;
     std::wstring expand(const std::wstring& text) const override;
     std::wstring temp() const override;
+    std::wstring userFolder(UserFolder which) const override;
 };
 
 } // namespace platform

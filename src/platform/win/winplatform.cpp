@@ -8,6 +8,7 @@
 #include "winpackagecatalogue.h"
 #include "winprocesses.h"
 #include "winregistry.h"
+#include "winservices.h"
 #include "winwindowframe.h"
 
 namespace platform {
@@ -20,6 +21,7 @@ WinPlatform::WinPlatform()
     , m_fileSystem(std::make_unique<WinFileSystem>())
     , m_launcher(std::make_unique<WinLauncher>())
     , m_icons(std::make_unique<WinIconExtractor>())
+    , m_services(std::make_unique<WinServices>())
     , m_processes(std::make_unique<WinProcesses>())
     , m_packages(std::make_unique<WinPackageCatalogue>())
 {
@@ -62,6 +64,11 @@ Processes& WinPlatform::processes()
 PackageCatalogue& WinPlatform::packages()
 {
     return *m_packages;
+}
+
+Services& WinPlatform::services()
+{
+    return *m_services;
 }
 
 } // namespace platform

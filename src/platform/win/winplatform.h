@@ -13,6 +13,7 @@ class WinSystemCounters;
 class WinFileSystem;
 class WinLauncher;
 class WinIconExtractor;
+class WinServices;
 class WinProcesses;
 class WinPackageCatalogue;
 
@@ -29,6 +30,7 @@ public:
     FileSystem& fileSystem() override;
     Launcher& launcher() override;
     IconExtractor& icons() override;
+    Services& services() override;
     Processes& processes() override;
     PackageCatalogue& packages() override;
     std::wstring sandboxRoot() const override { return std::wstring(); }
@@ -41,6 +43,7 @@ private:
     std::unique_ptr<WinFileSystem> m_fileSystem;
     std::unique_ptr<WinLauncher> m_launcher;
     std::unique_ptr<WinIconExtractor> m_icons;
+    std::unique_ptr<WinServices> m_services;
     std::unique_ptr<WinProcesses> m_processes;
     std::unique_ptr<WinPackageCatalogue> m_packages;
 };

@@ -11,3 +11,5 @@ if(NORVALE_WIXL)
     add_dependencies(${platform_test_target} uninstall_sample_msi)
     target_compile_definitions(${platform_test_target} PRIVATE "NORVALE_SAMPLE_MSI=\"Z:${uninstall_sample_msi}\"")
 endif()
+# Force removal: a program that keeps running from its install folder.
+norvale_add_wine_helper(forceremove_sleeper SOURCES ${CMAKE_CURRENT_SOURCE_DIR}/win/forceremove_sleeper.cpp)

@@ -1,0 +1,95 @@
+#include "forceremovefixture.h"
+
+#include <platform/environment.h>
+#include <platform/registry.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+
+ToolResult RecordedTools::run(const QString& program, const QStringList& arguments, int)
+{
+    if (blockMs > 0)
+        QThread::msleep(blockMs);
+    QMutexLocker locker(&m_lock);
+    m_calls.append(QStringList { program } + arguments);
+    return m_results.value(program, ToolResult { true, 0, QByteArray() });
+}
+
+void RecordedTools::answer(const QString& program, const ToolResult& result)
+{
+    QMutexLocker locker(&m_lock);
+    m_results.insert(program, result);
+}
+
+QList<QStringList> RecordedTools::calls() const
+{
+    QMutexLocker locker(&m_lock);
+    return m_calls;
+}
+
+SandboxMachine::SandboxMachine()
+    : m_platform(std::make_unique<platform::SandboxPlatform>(m_dir.path().toStdWString()))
+{
+    platform::setCurrent(m_platform.get());
+}
+
+SandboxMachine::~SandboxMachine()
+{
+    platform::setCurrent(nullptr);
+}
+
+QString SandboxMachine::local(const QString& windowsPath) const
+{
+    return QString::fromStdWString(m_platform->environment().mapPath(windowsPath.toStdWString()));
+}
+
+void SandboxMachine::writeFile(const QString& windowsPath, qint64 bytes)
+{
+    const QString path = local(windowsPath);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(QByteArray(bytes, 'x'));
+}
+
+void SandboxMachine::makeFolder(const QString& windowsPath)
+{
+    QDir().mkpath(local(windowsPath));
+}
+
+void SandboxMachine::setProcesses(const QStringList& lines)
+{
+    QFile file(m_dir.path() + QStringLiteral("/processes.txt"));
+    if (file.open(QIODevice::WriteOnly))
+        file.write((lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8());
+}
+
+QStringList SandboxMachine::processes() const
+{
+    QFile file(m_dir.path() + QStringLiteral("/processes.txt"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+void SandboxMachine::addService(const QString& name, const QString& binary, const QString& displayName)
+{
+    const std::wstring key = L"SYSTEM\\CurrentControlSet\\Services\\" + name.toStdWString();
+    registry().setDword(platform::Hive::LocalMachine, key, L"Type", 0x10);
+    registry().setString(
+        platform::Hive::LocalMachine, key, L"ImagePath", binary.toStdWString(), platform::TypeExpandString);
+    if (!displayName.isEmpty())
+        registry().setString(platform::Hive::LocalMachine, key, L"DisplayName", displayName.toStdWString());
+}
+
+InstalledApp fooApp(const QString& installLocation)
+{
+    InstalledApp app;
+    app.name = QStringLiteral("Foo App");
+    app.publisher = QStringLiteral("Acme Software Inc");
+    app.installLocation = installLocation;
+    app.status = QStringLiteral("nouninstaller");
+    return app;
+}

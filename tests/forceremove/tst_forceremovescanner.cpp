@@ -1,0 +1,379 @@
+#include "forceremovefixture.h"
+
+#include <forceremove/forceremovescanner.h>
+
+#include <platform/registry.h>
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+
+using platform::Hive;
+
+namespace {
+
+const QString Install = QStringLiteral("C:\\Program Files\\Foo App");
+const QString Roaming = QStringLiteral("C:\\Users\\User\\AppData\\Roaming");
+const QString Local = QStringLiteral("C:\\Users\\User\\AppData\\Local");
+const QString StartupFolder = QStringLiteral("\\Microsoft\\Windows\\Start Menu\\Programs\\Startup\\");
+const std::wstring Uninstall = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall";
+const std::wstring Uninstall32 = L"SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall";
+const std::wstring Run = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
+const QString TrayCommand = QStringLiteral("\"C:\\Program Files\\Foo App\\bin\\foo.exe\" /tray /minimized /no-splash");
+
+QString qs(const std::wstring& text)
+{
+    return QString::fromStdWString(text);
+}
+
+ToolResult output(const QByteArray& bytes, bool finished = true)
+{
+    return ToolResult { finished, 0, bytes };
+}
+
+// A program that left a trace of every kind, and a neighbour that must not be taken for it.
+void installFooApp(SandboxMachine& m, RecordedTools& tools)
+{
+    m.writeFile(Install + QStringLiteral("\\bin\\foo.exe"), 1000);
+    m.writeFile(Install + QStringLiteral("\\bin\\helper.exe"), 500);
+    m.writeFile(Install + QStringLiteral("\\data\\x.dat"), 3000);
+    m.setProcesses({ QStringLiteral("10\tC:\\Program Files\\Foo App\\bin\\foo.exe"),
+        QStringLiteral("11\tC:\\Windows\\explorer.exe"), QStringLiteral("12\tC:\\Other\\foo.exe") });
+    m.writeFile(Roaming + QStringLiteral("\\Foo App\\s.ini"), 200);
+    m.writeFile(Local + QStringLiteral("\\Acme\\c.bin"), 300);
+    m.makeFolder(Local + QStringLiteral("\\FooApp\\empty\\below")); // nothing in it: not listed
+    m.writeFile(QStringLiteral("C:\\ProgramData\\FooApp\\d.bin"), 400);
+
+    auto& reg = m.registry();
+    reg.setString(Hive::LocalMachine, Uninstall + L"\\FooApp", L"DisplayName", L" Foo App ");
+    reg.setString(Hive::LocalMachine, Uninstall32 + L"\\{F00}", L"DisplayName", L"Foo App");
+    reg.setString(Hive::CurrentUser, Uninstall + L"\\FooHelper", L"DisplayName", L"Foo App Helper");
+    reg.setString(Hive::CurrentUser, Uninstall + L"\\Lower", L"DisplayName", L"foo app");
+    reg.setString(Hive::LocalMachine, Run, L"FooTray", TrayCommand.toStdWString());
+    reg.setString(Hive::CurrentUser, Run, L"Updater", L"C:\\Users\\User\\foo app updater.exe");
+    reg.setString(Hive::CurrentUser, Run, L"Other", L"C:\\Other\\x.exe");
+
+    m.writeFile(Roaming + StartupFolder + QStringLiteral("Foo App.lnk"), 40);
+    m.writeFile(QStringLiteral("C:\\ProgramData") + StartupFolder + QStringLiteral("Acme Agent.lnk"), 30);
+    m.writeFile(Roaming + StartupFolder + QStringLiteral("Other.lnk"), 20);
+
+    tools.answer(QStringLiteral("schtasks"),
+        output("\"\\Foo App Update\",\"11/24/2026 3:00:00 AM\",\"Ready\"\r\n\"\\Other\",\"N/A\",\"Ready\"\r\n"));
+    m.addService(QStringLiteral("FooSvc"), QStringLiteral("\"C:\\Program Files\\Foo App\\bin\\svc.exe\" -k"),
+        QStringLiteral("Foo Service"));
+    m.addService(QStringLiteral("OtherSvc"), QStringLiteral("C:\\Other\\svc.exe"), QStringLiteral("Other"));
+}
+
+struct ScanRun {
+    QList<ForceRemoveItem> items;
+    qint64 total = -1;
+    QList<QPair<int, QString>> progress;
+};
+
+ScanRun scan(ForceRemoveScanner& scanner, const InstalledApp& app)
+{
+    QSignalSpy progress(&scanner, &ForceRemoveScanner::scanProgress);
+    QSignalSpy finished(&scanner, &ForceRemoveScanner::scanFinished);
+    scanner.scan(app);
+    ScanRun run;
+    if (!arrived(finished))
+        return run;
+    for (const QList<QVariant>& signal : std::as_const(progress))
+        run.progress.append({ signal.at(0).toInt(), signal.at(1).toString() });
+    run.items = scanner.items();
+    run.total = finished.at(0).at(0).toLongLong();
+    return run;
+}
+
+QStringList describe(const QList<ForceRemoveItem>& items)
+{
+    QStringList lines;
+    for (const ForceRemoveItem& i : items)
+        lines.append(QStringLiteral("%1|%2|%3|%4|%5|%6")
+                         .arg(int(i.kind))
+                         .arg(i.path, i.label)
+                         .arg(i.sizeBytes)
+                         .arg(i.highRisk)
+                         .arg(i.checked));
+    return lines;
+}
+
+} // namespace
+
+class tst_ForceRemoveScanner : public QObject {
+    Q_OBJECT
+
+private slots:
+    void findsEveryTraceInDiscoveryOrderAndEndsTheProgram()
+    {
+        SandboxMachine m;
+        auto tools = std::make_shared<RecordedTools>();
+        installFooApp(m, *tools);
+        ForceRemoveScanner scanner;
+        scanner.setToolRunner(tools);
+        const ScanRun run = scan(scanner, fooApp());
+        QVERIFY(run.total >= 0);
+
+        const QString roamingLocal = m.local(Roaming);
+        const QString localLocal = m.local(Local);
+        const QString programData = m.local(QStringLiteral("C:\\ProgramData"));
+        const QString runKey = qs(Run);
+        const QStringList expected = {
+            QStringLiteral("0|C:\\Program Files\\Foo App|Install folder: C:\\Program Files\\Foo App|4500|0|1"),
+            QStringLiteral("1|%1/Foo App|App data: .../Roaming/Foo App|200|0|1").arg(roamingLocal),
+            QStringLiteral("1|%1/Acme|App data: .../Local/Acme|300|0|1").arg(localLocal),
+            QStringLiteral("1|%1/FooApp|App data: .../ProgramData/FooApp|400|0|1").arg(programData),
+            QStringLiteral("2|HKLM\\%1\\FooApp|Registry uninstall entry: FooApp|0|0|1").arg(qs(Uninstall)),
+            QStringLiteral("2|HKLM\\%1\\{F00}|Registry uninstall entry: {F00}|0|0|1").arg(qs(Uninstall32)),
+            // A machine-wide start-up value is high-risk and still checked; the user's is not high-risk.
+            QStringLiteral("3|HKLM\\%1\\FooTray|Startup registry: FooTray → %2|0|1|1")
+                .arg(runKey, TrayCommand.left(60)),
+            QStringLiteral("3|HKCU\\%1\\Updater|Startup registry: Updater → C:\\Users\\User\\foo app updater.exe|0|0|1")
+                .arg(runKey),
+            QStringLiteral(
+                "4|%1/Microsoft/Windows/Start Menu/Programs/Startup/Foo App.lnk|Startup shortcut: Foo App.lnk|40|0|1")
+                .arg(roamingLocal),
+            QStringLiteral("4|%1/Microsoft/Windows/Start Menu/Programs/Startup/Acme Agent.lnk|Startup shortcut: Acme "
+                           "Agent.lnk|30|0|1")
+                .arg(programData),
+            QStringLiteral("5|\\Foo App Update|Scheduled task: \\Foo App Update|0|1|0"),
+            QStringLiteral("6|FooSvc|Windows service: Foo Service (FooSvc)|0|1|0"),
+        };
+        QCOMPARE(describe(run.items), expected);
+        QCOMPARE(run.total, 4500 + 200 + 300 + 400 + 40 + 30);
+
+        const QList<QPair<int, QString>> steps = {
+            { 5, QStringLiteral("Killing processes...") },
+            { 15, QStringLiteral("Scanning install directory...") },
+            { 35, QStringLiteral("Scanning app data...") },
+            { 55, QStringLiteral("Scanning registry...") },
+            { 70, QStringLiteral("Scanning startup items...") },
+            { 82, QStringLiteral("Scanning scheduled tasks...") },
+            { 92, QStringLiteral("Scanning services...") },
+            { 100, QStringLiteral("Done") },
+        };
+        QCOMPARE(run.progress, steps);
+
+        // The process running from the folder ended; every image name in it went to taskkill.
+        QCOMPARE(m.processes(),
+            QStringList({ QStringLiteral("11\tC:\\Windows\\explorer.exe"), QStringLiteral("12\tC:\\Other\\foo.exe") }));
+        QStringList killed;
+        for (const QStringList& call : tools->calls()) {
+            if (call.first() == QLatin1String("taskkill"))
+                killed.append(call.mid(1).join(QLatin1Char(' ')));
+        }
+        killed.sort();
+        QCOMPARE(killed, QStringList({ QStringLiteral("/F /IM foo.exe"), QStringLiteral("/F /IM helper.exe") }));
+        QVERIFY(tools->calls().contains(QStringList({ QStringLiteral("schtasks"), QStringLiteral("/query"),
+            QStringLiteral("/fo"), QStringLiteral("CSV"), QStringLiteral("/nh") })));
+    }
+
+    void removesWhatIsChosenAndCountsWhatIsFreed()
+    {
+        SandboxMachine m;
+        auto tools = std::make_shared<RecordedTools>();
+        installFooApp(m, *tools);
+        // A link inside the install folder goes as a link; what it points to stays.
+        QTemporaryDir outside;
+        QFile keep(outside.path() + QStringLiteral("/keep.doc"));
+        QVERIFY(keep.open(QIODevice::WriteOnly) && keep.write("precious") == 8);
+        keep.close();
+        QFile otherProgram(outside.path() + QStringLiteral("/other.exe"));
+        QVERIFY(otherProgram.open(QIODevice::WriteOnly));
+        otherProgram.close();
+        QVERIFY(QFile::link(outside.path(), m.local(Install + QStringLiteral("\\bin\\outside"))));
+        m.setProcesses({});
+
+        ForceRemoveScanner scanner;
+        scanner.setToolRunner(tools);
+        const ScanRun run = scan(scanner, fooApp());
+        QCOMPARE(run.items.size(), 12);
+        for (const QStringList& call : tools->calls())
+            QVERIFY2(!call.contains(QStringLiteral("other.exe")), "taskkill followed the link");
+
+        QSignalSpy progress(&scanner, &ForceRemoveScanner::executeProgress);
+        QSignalSpy finished(&scanner, &ForceRemoveScanner::executeFinished);
+        const QList<int> chosen = { 0, 99, 1, -1, 4, 6, 7, 8, 10, 11 };
+        scanner.execute(chosen);
+        QVERIFY(arrived(finished));
+        QCOMPARE(finished.at(0).at(0).toLongLong(), 4500 + 200 + 40);
+
+        // Positions out of range are skipped without a signal, and the percentages keep counting them.
+        QList<int> percents;
+        for (const QList<QVariant>& signal : std::as_const(progress))
+            percents.append(signal.at(0).toInt());
+        QCOMPARE(percents, QList<int>({ 0, 10, 20, 30, 40, 50, 50, 60, 60, 70, 70, 80, 80, 90, 90, 100 }));
+        QCOMPARE(
+            progress.at(0).at(1).toString(), QStringLiteral("Removing: Install folder: C:\\Program Files\\Foo App"));
+        QCOMPARE(progress.at(1).at(1).toString(), QStringLiteral("Done: Install folder: C:\\Program Files\\Foo App"));
+
+        QVERIFY(!QFileInfo::exists(m.local(Install)));
+        QVERIFY(QFile::exists(outside.path() + QStringLiteral("/keep.doc")));
+        QVERIFY(!QFileInfo::exists(m.local(Roaming + QStringLiteral("\\Foo App"))));
+        QVERIFY(QFileInfo::exists(m.local(Local + QStringLiteral("\\Acme\\c.bin")))); // not chosen
+        auto& reg = m.registry();
+        QVERIFY(!reg.keyExists(Hive::LocalMachine, Uninstall + L"\\FooApp"));
+        QVERIFY(reg.keyExists(Hive::LocalMachine, Uninstall32 + L"\\{F00}"));
+        QVERIFY(!reg.readString(Hive::LocalMachine, Run, L"FooTray"));
+        QVERIFY(!reg.readString(Hive::CurrentUser, Run, L"Updater"));
+        QVERIFY(reg.readString(Hive::CurrentUser, Run, L"Other"));
+        QVERIFY(reg.keyExists(Hive::LocalMachine, Run));
+        QVERIFY(!QFileInfo::exists(m.local(Roaming + StartupFolder + QStringLiteral("Foo App.lnk"))));
+        QVERIFY(QFileInfo::exists(m.local(Roaming + StartupFolder + QStringLiteral("Other.lnk"))));
+
+        const QList<QStringList> calls = tools->calls();
+        const QList<QStringList> removals(calls.end() - 3, calls.end());
+        QCOMPARE(removals,
+            QList<QStringList>({ { QStringLiteral("schtasks"), QStringLiteral("/delete"), QStringLiteral("/tn"),
+                                     QStringLiteral("\\Foo App Update"), QStringLiteral("/f") },
+                { QStringLiteral("sc"), QStringLiteral("stop"), QStringLiteral("FooSvc") },
+                { QStringLiteral("sc"), QStringLiteral("delete"), QStringLiteral("FooSvc") } }));
+    }
+
+    void scheduledTasksFromRecordedListings_data()
+    {
+        QTest::addColumn<QByteArray>("listing");
+        QTest::addColumn<bool>("finished");
+        QTest::addColumn<QStringList>("tasks");
+        QTest::newRow("the name in the task column") << QByteArray("\"\\Foo App Nightly\",\"N/A\",\"Ready\"\n") << true
+                                                     << QStringList { QStringLiteral("\\Foo App Nightly") };
+        QTest::newRow("the install folder in another column")
+            << QByteArray("\"\\Vendor\\Sync\",\"N/A\",\"C:\\Program Files\\Foo App\\sync.exe\"\n") << true
+            << QStringList { QStringLiteral("\\Vendor\\Sync") };
+        QTest::newRow("quoted name with a comma, in any case")
+            << QByteArray("\"\\Acme, Inc\\FOO APP Sync\",\"N/A\",\"Ready\"\r\n") << true
+            << QStringList { QStringLiteral("\\Acme, Inc\\FOO APP Sync") };
+        QTest::newRow("a task listed twice gives two targets") << QByteArray(
+            "\"\\FooApp\",\"N/A\",\"Ready\"\n\n\"\\Foo App\",\"N/A\",\"Ready\"\n\"\\Foo App\",\"Later\",\"Ready\"\n")
+                                                               << true
+                                                               << QStringList { QStringLiteral("\\Foo App"),
+                                                                      QStringLiteral("\\Foo App") };
+        QTest::newRow("an empty name field is no task")
+            << QByteArray("\"\",\"Foo App\",\"Ready\"\n") << true << QStringList {};
+        QTest::newRow("schtasks that did not finish")
+            << QByteArray("\"\\Foo App\",\"N/A\",\"Ready\"\n") << false << QStringList {};
+    }
+    void scheduledTasksFromRecordedListings()
+    {
+        QFETCH(QByteArray, listing);
+        QFETCH(bool, finished);
+        QFETCH(QStringList, tasks);
+        SandboxMachine m;
+        auto tools = std::make_shared<RecordedTools>();
+        tools->answer(QStringLiteral("schtasks"), output(listing, finished));
+        ForceRemoveScanner scanner;
+        scanner.setToolRunner(tools);
+        const ScanRun run = scan(scanner, fooApp());
+        QStringList found;
+        for (const ForceRemoveItem& item : run.items) {
+            QCOMPARE(item.kind, ForceRemoveKind::ScheduledTask);
+            QVERIFY(item.highRisk && !item.checked);
+            found.append(item.path);
+        }
+        QCOMPARE(found, tasks);
+    }
+
+    // The install location is refused in every spelling of a system or user folder, and then
+    // nothing is done in its name: no process ends, no folder, no service, no start-up value.
+    void protectedInstallLocations_data()
+    {
+        QTest::addColumn<QString>("location");
+        QTest::addColumn<bool>("refused");
+        QTest::newRow("drive root") << QStringLiteral("C:\\") << true;
+        QTest::newRow("Windows") << QStringLiteral("C:\\Windows") << true;
+        QTest::newRow("inside Windows") << QStringLiteral("C:\\Windows\\System32") << true;
+        QTest::newRow("Program Files, other spelling") << QStringLiteral("c:/program files//") << true;
+        QTest::newRow("a program's parent by dots") << QStringLiteral("C:\\Program Files\\Foo App\\..") << true;
+        QTest::newRow("ProgramData") << QStringLiteral("C:\\ProgramData\\.") << true;
+        QTest::newRow("the profile") << QStringLiteral("C:\\Users\\User") << true;
+        QTest::newRow("Roaming") << QStringLiteral("C:\\Users\\User\\AppData\\Roaming\\") << true;
+        QTest::newRow("Documents") << QStringLiteral("C:\\Users\\User\\Documents") << true;
+        QTest::newRow("relative") << QStringLiteral("Foo App") << true;
+        QTest::newRow("no location at all") << QString() << false;
+    }
+    void protectedInstallLocations()
+    {
+        QFETCH(QString, location);
+        QFETCH(bool, refused);
+        SandboxMachine m;
+        const QStringList processes = { QStringLiteral("20\tC:\\Windows\\explorer.exe"),
+            QStringLiteral("21\tC:\\Program Files\\Other\\o.exe"),
+            QStringLiteral("22\tC:\\Users\\User\\AppData\\Roaming\\r.exe"),
+            QStringLiteral("23\tC:\\ProgramData\\p.exe"), QStringLiteral("24\tC:\\Users\\User\\Documents\\d.exe") };
+        m.setProcesses(processes);
+        for (const QString& exe :
+            { QStringLiteral("C:\\Windows\\System32\\svchost.exe"), QStringLiteral("C:\\Program Files\\Other\\o.exe"),
+                QStringLiteral("C:\\Users\\User\\Documents\\d.exe") })
+            m.writeFile(exe, 10);
+        m.addService(QStringLiteral("WinSvc"), QStringLiteral("C:\\Windows\\System32\\svchost.exe -k netsvcs"));
+        m.registry().setString(Hive::CurrentUser, Run, L"Shell", L"C:\\Windows\\explorer.exe");
+        m.registry().setString(Hive::CurrentUser, Uninstall + L"\\Zed", L"DisplayName", L"Zed Tool");
+
+        auto tools = std::make_shared<RecordedTools>();
+        ForceRemoveScanner scanner;
+        scanner.setToolRunner(tools);
+        InstalledApp app;
+        app.name = QStringLiteral("Zed Tool");
+        app.installLocation = location;
+        const ScanRun run = scan(scanner, app);
+
+        QCOMPARE(scanner.installLocationRefused(), refused);
+        QCOMPARE(m.processes(), processes);
+        for (const QStringList& call : tools->calls())
+            QCOMPARE(call.first(), QStringLiteral("schtasks"));
+        // Only the entry found by the program's name.
+        QCOMPARE(describe(run.items),
+            QStringList { QStringLiteral("2|HKCU\\%1\\Zed|Registry uninstall entry: Zed|0|0|1").arg(qs(Uninstall)) });
+    }
+
+    void theSameFolderIsListedOnceHoweverItIsReached()
+    {
+        SandboxMachine m;
+        // Two candidates that differ only in case, and the install folder among the app data.
+        m.writeFile(Roaming + QStringLiteral("\\acme\\a.bin"), 10);
+        m.writeFile(Roaming + QStringLiteral("\\Acme\\b.bin"), 20);
+        m.writeFile(Local + QStringLiteral("\\Acme\\c.bin"), 30);
+        auto tools = std::make_shared<RecordedTools>();
+        ForceRemoveScanner scanner;
+        scanner.setToolRunner(tools);
+        InstalledApp app;
+        app.name = QStringLiteral("acme");
+        app.publisher = QStringLiteral("Acme Corp");
+        app.installLocation = Roaming + QStringLiteral("\\acme\\");
+        const ScanRun run = scan(scanner, app);
+        QStringList paths;
+        for (const ForceRemoveItem& item : run.items)
+            paths.append(item.path);
+        QCOMPARE(paths, QStringList({ app.installLocation, m.local(Local) + QStringLiteral("/Acme") }));
+    }
+
+    void cancelStopsAtTheNextCheckAndNothingFollows()
+    {
+        SandboxMachine m;
+        auto tools = std::make_shared<RecordedTools>();
+        tools->blockMs = 400; // schtasks is slow to answer
+        tools->answer(QStringLiteral("schtasks"), output("\"\\Foo App\",\"N/A\",\"Ready\"\n"));
+        m.addService(QStringLiteral("FooSvc"), QStringLiteral("C:\\Program Files\\Foo App\\svc.exe"));
+        auto* scanner = new ForceRemoveScanner;
+        scanner->setToolRunner(tools);
+        QSignalSpy progress(scanner, &ForceRemoveScanner::scanProgress);
+        QSignalSpy finished(scanner, &ForceRemoveScanner::scanFinished);
+        scanner->scan(fooApp());
+        QTRY_VERIFY_WITH_TIMEOUT(!progress.isEmpty() && progress.last().at(0).toInt() == 82, 5000);
+        scanner->cancel();
+        QTest::qWait(800);
+        QCOMPARE(progress.last().at(0).toInt(), 82);
+        QVERIFY(finished.isEmpty());
+
+        // Destroyed while a step runs: the job finds it gone and emits nothing through it.
+        progress.clear();
+        scanner->scan(fooApp());
+        QTRY_VERIFY_WITH_TIMEOUT(!progress.isEmpty() && progress.last().at(0).toInt() == 82, 5000);
+        delete scanner;
+        QTest::qWait(800);
+    }
+};
+
+QTEST_MAIN(tst_ForceRemoveScanner)
+#include "tst_forceremovescanner.moc"
