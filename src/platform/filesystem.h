@@ -15,6 +15,14 @@ struct EmptyFolderResult {
     std::uint32_t firstError = 0; // errno or Win32 error of the first failure, 0 if none
 };
 
+// What removing one entry did: the entry itself and, for a folder, everything it held.
+struct RemoveTreeResult {
+    bool existed = false; // something was at the path (a folder, a file or a link)
+    bool removed = false; // it was there and is gone now
+    std::uint64_t failed = 0; // entries below it that stayed
+    std::uint32_t firstError = 0; // errno or Win32 error of the first failure, 0 if none
+};
+
 // Metadata walks and link-safe deletion inside folders.
 //
 // None of these ever enters a symbolic link, junction, mount point or other reparse point: a link
@@ -40,6 +48,10 @@ public:
     // they hold; what cannot be deleted stays (with the folders that lead to it) and the rest
     // goes on. A file's read-only attribute is left as it is, so on Windows such files stay.
     virtual EmptyFolderResult emptyFolder(const std::wstring& folder) = 0;
+
+    // Deletes `path` itself: a folder with everything below it (as emptyFolder walks it), a file,
+    // or a link as a link. A path whose last component is "." or ".." is refused, never resolved.
+    virtual RemoveTreeResult removeTree(const std::wstring& path) = 0;
 };
 
 } // namespace platform

@@ -16,6 +16,7 @@ public:
     std::optional<std::vector<std::wstring>> subFolders(const std::wstring& folder) override;
     std::int64_t folderSize(const std::wstring& folder) override;
     EmptyFolderResult emptyFolder(const std::wstring& folder) override;
+    RemoveTreeResult removeTree(const std::wstring& path) override; // filesystemremove.cpp
 };
 
 } // namespace platform
