@@ -9,6 +9,7 @@ class Environment;
 class FileSystem;
 class IconExtractor;
 class Launcher;
+class Processes;
 class Registry;
 class SystemCounters;
 class WindowFrame;
@@ -26,6 +27,7 @@ public:
     virtual FileSystem& fileSystem() = 0;
     virtual Launcher& launcher() = 0;
     virtual IconExtractor& icons() = 0;
+    virtual Processes& processes() = 0;
 
     // Empty on Windows; the sandbox folder otherwise.
     virtual std::wstring sandboxRoot() const = 0;

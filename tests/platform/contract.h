@@ -1,8 +1,12 @@
 #pragma once
 
+#include "platform/processes.h"
 #include "platform/registry.h"
 
+#include <cstdint>
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace contract {
 
@@ -11,5 +15,20 @@ std::unique_ptr<platform::Registry> makeContractRegistry();
 
 // Windows and the sandbox enumerate values as created; Wine's registry sorts them by name.
 bool valuesComeInCreationOrder();
+
+// A process of the lane that keeps running until it is ended, and where its executable lies (as
+// the lane's process service reports image paths).
+struct StartedProcess {
+    std::uint32_t pid = 0;
+    std::wstring imageName;
+    std::wstring imagePath;
+};
+
+// The lane's process service: a sandbox of its own natively, the Wine prefix's processes under Wine.
+platform::Processes& contractProcesses();
+// Starts a process that the service above lists; nullopt when the lane could not start one.
+std::optional<StartedProcess> startLongRunningProcess();
+// Waits until the process has ended (a real process takes a moment to go), and reaps it.
+bool waitUntilEnded(std::uint32_t pid);
 
 } // namespace contract

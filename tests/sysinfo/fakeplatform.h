@@ -36,6 +36,7 @@ public:
     platform::FileSystem& fileSystem() override { return m_sandbox.fileSystem(); }
     platform::Launcher& launcher() override { return m_sandbox.launcher(); }
     platform::IconExtractor& icons() override { return m_sandbox.icons(); }
+    platform::Processes& processes() override { return m_sandbox.processes(); }
     std::wstring sandboxRoot() const override { return m_sandbox.sandboxRoot(); }
 
 private:

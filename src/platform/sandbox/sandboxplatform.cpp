@@ -7,6 +7,7 @@
 #include "sandboxfilesystem.h"
 #include "sandboxiconextractor.h"
 #include "sandboxlauncher.h"
+#include "sandboxprocesses.h"
 #include "sandboxregistry.h"
 
 #include <sys/stat.h>
@@ -49,6 +50,7 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
     m_fileSystem = std::make_unique<SandboxFileSystem>(m_root);
     m_launcher = std::make_unique<SandboxLauncher>(m_root, m_registry.get());
     m_icons = std::make_unique<SandboxIconExtractor>(m_root);
+    m_processes = std::make_unique<SandboxProcesses>(m_root, *m_environment);
 }
 
 SandboxPlatform::~SandboxPlatform() = default;
@@ -80,6 +82,10 @@ Launcher& SandboxPlatform::launcher()
 IconExtractor& SandboxPlatform::icons()
 {
     return *m_icons;
+}
+Processes& SandboxPlatform::processes()
+{
+    return *m_processes;
 }
 std::wstring SandboxPlatform::sandboxRoot() const
 {

@@ -13,6 +13,7 @@ class SandboxSystemCounters;
 class SandboxFileSystem;
 class SandboxLauncher;
 class SandboxIconExtractor;
+class SandboxProcesses;
 class NullWindowFrame;
 
 // A machine in one folder: "<root>/C" is the system drive and "<root>/registry.reg" the registry.
@@ -30,6 +31,7 @@ public:
     FileSystem& fileSystem() override;
     Launcher& launcher() override;
     IconExtractor& icons() override;
+    Processes& processes() override;
     std::wstring sandboxRoot() const override;
 
     static std::wstring registryFileName() { return L"registry.reg"; }
@@ -43,6 +45,7 @@ private:
     std::unique_ptr<SandboxFileSystem> m_fileSystem;
     std::unique_ptr<SandboxLauncher> m_launcher;
     std::unique_ptr<SandboxIconExtractor> m_icons;
+    std::unique_ptr<SandboxProcesses> m_processes;
 };
 
 } // namespace platform

@@ -5,6 +5,7 @@
 #include "winfilesystem.h"
 #include "winiconextractor.h"
 #include "winlauncher.h"
+#include "winprocesses.h"
 #include "winregistry.h"
 #include "winwindowframe.h"
 
@@ -18,6 +19,7 @@ WinPlatform::WinPlatform()
     , m_fileSystem(std::make_unique<WinFileSystem>())
     , m_launcher(std::make_unique<WinLauncher>())
     , m_icons(std::make_unique<WinIconExtractor>())
+    , m_processes(std::make_unique<WinProcesses>())
 {
 }
 
@@ -50,6 +52,10 @@ Launcher& WinPlatform::launcher()
 IconExtractor& WinPlatform::icons()
 {
     return *m_icons;
+}
+Processes& WinPlatform::processes()
+{
+    return *m_processes;
 }
 
 } // namespace platform

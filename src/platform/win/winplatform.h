@@ -13,6 +13,7 @@ class WinSystemCounters;
 class WinFileSystem;
 class WinLauncher;
 class WinIconExtractor;
+class WinProcesses;
 
 // The real machine, through Win32.
 class WinPlatform final : public Platform {
@@ -27,6 +28,7 @@ public:
     FileSystem& fileSystem() override;
     Launcher& launcher() override;
     IconExtractor& icons() override;
+    Processes& processes() override;
     std::wstring sandboxRoot() const override { return std::wstring(); }
 
 private:
@@ -37,6 +39,7 @@ private:
     std::unique_ptr<WinFileSystem> m_fileSystem;
     std::unique_ptr<WinLauncher> m_launcher;
     std::unique_ptr<WinIconExtractor> m_icons;
+    std::unique_ptr<WinProcesses> m_processes;
 };
 
 } // namespace platform

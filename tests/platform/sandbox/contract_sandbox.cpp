@@ -15,3 +15,63 @@ bool valuesComeInCreationOrder()
 }
 
 } // namespace contract
+
+#include "platform/sandbox/sandboxenvironment.h"
+#include "platform/sandbox/sandboxprocesses.h"
+#include "platform/strings.h"
+
+#include <cstdlib>
+#include <fstream>
+
+namespace contract {
+
+namespace {
+
+struct ProcessLane {
+    std::wstring root;
+    std::unique_ptr<platform::SandboxEnvironment> environment;
+    std::unique_ptr<platform::SandboxProcesses> processes;
+    std::uint32_t nextPid = 4240;
+
+    ProcessLane()
+    {
+        char pattern[] = "/tmp/norvale-processes-XXXXXX";
+        const char* made = ::mkdtemp(pattern);
+        root = platform::fromUtf8(made ? made : "/nonexistent");
+        environment = std::make_unique<platform::SandboxEnvironment>(root);
+        processes = std::make_unique<platform::SandboxProcesses>(root, *environment);
+    }
+};
+
+ProcessLane& processLane()
+{
+    static ProcessLane lane;
+    return lane;
+}
+
+} // namespace
+
+platform::Processes& contractProcesses()
+{
+    return *processLane().processes;
+}
+
+std::optional<StartedProcess> startLongRunningProcess()
+{
+    ProcessLane& lane = processLane();
+    const std::wstring windowsPath = L"C:\\Program Files\\Norvale Test\\Sleeper.exe";
+    StartedProcess started { lane.nextPid += 4, L"Sleeper.exe", lane.environment->mapPath(windowsPath) };
+    std::ofstream list(platform::toUtf8(lane.root + L"/" + platform::SandboxProcesses::listFileName()),
+        std::ios::app | std::ios::binary);
+    list << started.pid << '\t' << platform::toUtf8(windowsPath) << '\n';
+    if (!list)
+        return std::nullopt;
+    return started;
+}
+
+bool waitUntilEnded(std::uint32_t)
+{
+    return true; // a line removed is a process gone
+}
+
+} // namespace contract

@@ -17,3 +17,59 @@ bool valuesComeInCreationOrder()
 }
 
 } // namespace contract
+
+#include "platform/win/winhandle.h"
+#include "platform/win/winprocesses.h"
+
+#include <map>
+
+namespace contract {
+
+namespace {
+
+std::map<std::uint32_t, platform::UniqueHandle>& startedProcesses()
+{
+    static std::map<std::uint32_t, platform::UniqueHandle> processes;
+    return processes;
+}
+
+} // namespace
+
+platform::Processes& contractProcesses()
+{
+    static platform::WinProcesses processes;
+    return processes;
+}
+
+std::optional<StartedProcess> startLongRunningProcess()
+{
+    std::string helper = NORVALE_HELPER_FAKE_UNINSTALLER;
+    std::wstring path(helper.begin(), helper.end());
+    for (wchar_t& c : path) {
+        if (c == L'/')
+            c = L'\\';
+    }
+    std::wstring commandLine = L"\"" + path + L"\" --sleep 60000";
+    STARTUPINFOW startup {};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION info {};
+    if (!::CreateProcessW(
+            path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &info))
+        return std::nullopt;
+    ::CloseHandle(info.hThread);
+    startedProcesses()[info.dwProcessId] = platform::UniqueHandle(info.hProcess);
+    const std::size_t cut = path.find_last_of(L'\\');
+    return StartedProcess { info.dwProcessId, path.substr(cut + 1), path };
+}
+
+bool waitUntilEnded(std::uint32_t pid)
+{
+    auto it = startedProcesses().find(pid);
+    if (it == startedProcesses().end())
+        return false;
+    const bool ended = ::WaitForSingleObject(it->second.get(), 10000) == WAIT_OBJECT_0;
+    startedProcesses().erase(it);
+    return ended;
+}
+
+} // namespace contract
