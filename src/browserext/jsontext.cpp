@@ -211,16 +211,29 @@ void JsonText::insertMembers(Span object, const QList<QPair<QString, QByteArray>
 {
     if (!object.isValid() || !isObject(object) || members.isEmpty())
         return;
+    // After the last member, so the object reads as if the browser had written the values last.
+    qsizetype lastEnd = -1;
+    qsizetype pos = skipSpace(object.begin + 1);
+    while (pos < object.end && at(pos) == '"') {
+        pos = skipSpace(stringEnd(pos));
+        if (at(pos) != ':')
+            return;
+        lastEnd = valueEnd(skipSpace(pos + 1));
+        if (lastEnd < 0)
+            return;
+        pos = skipSpace(lastEnd);
+        if (at(pos) != ',')
+            break;
+        pos = skipSpace(pos + 1);
+    }
     QByteArray text;
     for (const auto& [key, value] : members) {
-        if (!text.isEmpty())
+        if (!text.isEmpty() || lastEnd >= 0)
             text += ',';
         text += quoted(key) + ':' + value;
     }
-    const bool empty = at(skipSpace(object.begin + 1)) == '}';
-    if (!empty)
-        text += ',';
-    m_edits.append({ object.begin + 1, object.begin + 1, text });
+    const qsizetype at = lastEnd >= 0 ? lastEnd : object.begin + 1;
+    m_edits.append({ at, at, text });
 }
 
 QByteArray JsonText::edited() const
