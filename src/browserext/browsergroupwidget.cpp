@@ -95,7 +95,8 @@ BrowserGroupWidget::BrowserGroupWidget(const QString& browser, QWidget* parent)
     m_count->setStyleSheet(QStringLiteral("font-size:11px; font-weight:600; color:%1; background:%2; "
                                           "border-radius:9px; padding:2px 8px;")
                                .arg(colour, tint.name(QColor::HexArgb)));
-    header->addWidget(m_count);
+    m_count->setFixedHeight(20);
+    header->addWidget(m_count, 0, Qt::AlignVCenter);
     header->addStretch();
 
     m_arrow = new QLabel(m_header);
