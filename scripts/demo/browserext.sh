@@ -62,9 +62,7 @@ def store(install_time="13345678901234567"):
 NOTES = "ghbmnnjooekpmoecnnnilnnbdlolhkhi"
 SHIELD = "cjpalhdlnbpafiamejdnhcphjbkeiagm"
 TRANSLATE = "aapbdbdomjkkjkaonfhkkikfgjllcleb"
-RULER = "jlpkojjdgbllmedoapgfodplfhcbnbpn"
 JSONV = "gbmdgpbipfallnflgajpaliibnhdgobh"
-PASSWORD = "nngceckbapebfimnlniiiahkandclblb"
 THEME = "iiihlpikmpglhkbmkkalgcpgndpldajn"
 COMPONENT = "nmmhkkegccagdldgiimedpiccmgmieda"
 DEFAULT = "pjkljhegncpnkpknbcohdijeoejaedia"
@@ -98,9 +96,7 @@ profile1 = f"{chrome}/Profile 1"
 extension(profile1, SHIELD, ["1.52.2_0"], ext_words,
           {"en": {"extName": "Ad Shield", "extDesc": "Blocks ads and trackers on every page"}},
           [(48, ("#dc2626", "A"))])
-extension(profile1, RULER, ["0.2.6_0"],
-          {"name": "Page Ruler", "description": "Measure anything on a page in pixels"})
-preferences(profile1, {SHIELD: store(), RULER: store()})
+preferences(profile1, {SHIELD: store()})
 
 beta = f"{local}/Google/Chrome Beta/User Data/Default"
 extension(beta, JSONV, ["0.18.1_0"],
@@ -113,12 +109,9 @@ edge = f"{local}/Microsoft/Edge/User Data/Default"
 extension(edge, SHIELD, ["1.52.2_0"], ext_words,
           {"en": {"extName": "Ad Shield", "extDesc": "Blocks ads and trackers on every page"}},
           [(48, ("#dc2626", "A"))])
-extension(edge, PASSWORD, ["4.1.0_0"],
-          {"name": "Password Keeper", "description": "Fills and stores your passwords securely",
-           "icons": {"48": "icons/icon48.png"}}, icons=[(48, ("#0ea5e9", "P"))])
 extension(edge, "kbfnbcaeplbcioakkpcpgfkobkghlhen", ["14.1152.0_0"],
           {"name": "Grammar Helper", "description": "Checks spelling and grammar as you type"})
-preferences(edge, {SHIELD: store(), PASSWORD: store()})
+preferences(edge, {SHIELD: store()})
 
 # Firefox: the add-on database beside the packed and unpacked add-ons.
 profile = f"{roaming}/Mozilla/Firefox/Profiles/k7x2m9qa.default-release"

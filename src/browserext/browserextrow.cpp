@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr int AvatarSize = 36;
-constexpr int IconSize = 28;
+constexpr int AvatarSize = 32;
+constexpr int IconSize = 24;
 // Icons are a few dozen pixels; a file claiming more than this is not worth decoding for a row.
 constexpr int MaxIconSide = 1024;
 
@@ -42,7 +42,7 @@ BrowserExtRow::BrowserExtRow(const BrowserExt& ext, QWidget* parent)
                                  "QWidget#BrowserExtRow:hover { background:#f8fafc; }"));
 
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(16, 10, 16, 10);
+    layout->setContentsMargins(16, 6, 16, 6);
     layout->setSpacing(12);
 
     m_check = new QCheckBox(this);
@@ -53,7 +53,7 @@ BrowserExtRow::BrowserExtRow(const BrowserExt& ext, QWidget* parent)
 
     auto* texts = new QVBoxLayout;
     texts->setContentsMargins(0, 0, 0, 0);
-    texts->setSpacing(3);
+    texts->setSpacing(1);
     auto* titleLine = new QHBoxLayout;
     titleLine->setContentsMargins(0, 0, 0, 0);
     titleLine->setSpacing(8);
@@ -93,7 +93,7 @@ BrowserExtRow::BrowserExtRow(const BrowserExt& ext, QWidget* parent)
     auto* remove = new QPushButton(tr("移除"), this);
     remove->setObjectName(QStringLiteral("BrowserExtRemoveButton"));
     remove->setCursor(Qt::PointingHandCursor);
-    remove->setFixedHeight(28);
+    remove->setFixedHeight(26);
     remove->setStyleSheet(QStringLiteral(
         "QPushButton { background:#fee2e2; color:#dc2626; border:none; border-radius:5px; font-size:12px; "
         "font-weight:600; padding:0 14px; }"

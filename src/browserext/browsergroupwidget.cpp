@@ -68,7 +68,7 @@ BrowserGroupWidget::BrowserGroupWidget(const QString& browser, QWidget* parent)
     m_header->setProperty("role", roleFor(browser));
     m_header->setAttribute(Qt::WA_StyledBackground);
     m_header->setCursor(Qt::PointingHandCursor);
-    m_header->setFixedHeight(48);
+    m_header->setFixedHeight(44);
     m_header->setStyleSheet(QStringLiteral("QWidget#groupHeader { background:transparent; border:none; }"));
     m_header->installEventFilter(this);
     auto* header = new QHBoxLayout(m_header);
