@@ -140,10 +140,11 @@ BrowserExtPage::BrowserExtPage(QWidget* parent)
 
 BrowserExtPage::~BrowserExtPage()
 {
-    // A QThread must not be destroyed while it runs; the scan only reads and ends soon.
-    if (m_scanner) {
-        disconnect(m_scanner, nullptr, this, nullptr);
-        m_scanner->wait();
+    // A QThread must not be destroyed while it runs; the scan only reads and ends soon. An
+    // earlier scanner may still be on its way out, so every one is waited for.
+    for (BrowserExtScanner* scanner : findChildren<BrowserExtScanner*>(Qt::FindDirectChildrenOnly)) {
+        disconnect(scanner, nullptr, this, nullptr);
+        scanner->wait();
     }
 }
 
@@ -268,19 +269,27 @@ void BrowserExtPage::resizeEvent(QResizeEvent* event)
 
 void BrowserExtPage::startScan()
 {
-    if (m_scanner || m_busy)
+    if (isScanning() || m_busy)
         return;
     m_count->setText(tr("正在扫描浏览器扩展..."));
     m_refresh->setText(tr("正在扫描..."));
     m_refresh->setEnabled(false);
+    m_scanDelivered = false;
     m_scanner = new BrowserExtScanner(this);
     connect(m_scanner, &BrowserExtScanner::scanDone, this, &BrowserExtPage::onScanDone);
     connect(m_scanner, &QThread::finished, m_scanner, &QObject::deleteLater);
     m_scanner->start();
 }
 
+bool BrowserExtPage::isScanning() const
+{
+    // The scanner that delivered its list is finished even before its deletion comes round.
+    return m_scanner && m_scanner->isRunning() && !m_scanDelivered;
+}
+
 void BrowserExtPage::onScanDone(const QList<BrowserExt>& extensions)
 {
+    m_scanDelivered = true;
     m_refresh->setText(tr("↻ 刷新"));
     m_refresh->setEnabled(true);
     clearGroups();
@@ -356,7 +365,7 @@ void BrowserExtPage::onSelectionChanged()
 void BrowserExtPage::setBusy(bool busy)
 {
     m_busy = busy;
-    m_refresh->setEnabled(!busy && !m_scanner);
+    m_refresh->setEnabled(!busy && !isScanning());
     onSelectionChanged();
 }
 
@@ -529,6 +538,8 @@ void BrowserExtPage::onRemoveSelected()
     }
     m_batch = batch;
     showOverlay(tr("正在移除 %1 个扩展...").arg(batch.size()), static_cast<int>(batch.size()));
+    // The pool reports each later item; a progress value of 0 is never reported, so the first is set here.
+    m_overlayItem->setText(tr("正在移除「%1」... (%2/%3)").arg(batch.constFirst().name).arg(1).arg(batch.size()));
     m_batchWatcher->setFuture(QtConcurrent::run([batch](QPromise<QList<BrowserExtRemover::Result>>& promise) {
         promise.setProgressRange(0, static_cast<int>(batch.size()));
         QList<BrowserExtRemover::Result> results;

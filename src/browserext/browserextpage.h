@@ -68,8 +68,10 @@ private:
     int killAndWait(const QString& browser);
     void openExtensionPage(const QString& browser);
     void clearGroups();
+    bool isScanning() const;
 
     QPointer<BrowserExtScanner> m_scanner;
+    bool m_scanDelivered = false;
     QFutureWatcher<BrowserExtRemover::Result>* m_singleWatcher = nullptr;
     QFutureWatcher<QList<BrowserExtRemover::Result>>* m_batchWatcher = nullptr;
     BrowserExt m_removing; // the extension of the running single removal
