@@ -157,13 +157,13 @@ void BrowserExtScanner::run()
     emit scanDone(unique);
 }
 
-QList<BrowserExt> BrowserExtScanner::scanChromium(const QString& browser, const char* logPrefix, bool logProfiles) const
+QList<BrowserExt> BrowserExtScanner::scanChromium(const QString& browser, const char* logPrefix, bool verbose) const
 {
     const QString localAppData = QString::fromStdWString(platform::current().environment().localAppData());
     QList<BrowserExt> found;
     for (const QString& userData : chromiumUserDataFolders(browser, localAppData)) {
         if (!QFileInfo(userData).isDir()) {
-            if (logProfiles)
+            if (verbose)
                 qDebug().noquote() << logPrefix << "not found:" << userData;
             continue;
         }
@@ -172,7 +172,7 @@ QList<BrowserExt> BrowserExtScanner::scanChromium(const QString& browser, const 
             const QString profile = userData + QLatin1Char('/') + name;
             if (!QFileInfo(profile + QLatin1String("/Extensions")).isDir())
                 continue;
-            if (logProfiles)
+            if (verbose)
                 qDebug().noquote() << logPrefix << "profile:" << profile;
             found += scanChromiumProfile(profile, browser);
         }

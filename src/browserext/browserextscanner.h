@@ -28,7 +28,8 @@ protected:
     void run() override;
 
 private:
-    QList<BrowserExt> scanChromium(const QString& browser, const char* logPrefix, bool logMissing) const;
+    // `verbose`: also log missing user-data folders and every profile (Chrome does, Edge does not).
+    QList<BrowserExt> scanChromium(const QString& browser, const char* logPrefix, bool verbose) const;
     QList<BrowserExt> scanChromiumProfile(const QString& profile, const QString& browser) const;
     QList<BrowserExt> scanFirefox() const;
 };
