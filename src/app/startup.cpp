@@ -103,7 +103,10 @@ void prepareApplication()
     applyIdentity();
     applyStyleAndPalette();
     applyFont();
-    LinkManager::instance()->setLanguage(setUpTranslation());
+    // Two statements: in one, the link catalogue would be created (and log) before the
+    // translation block that has to precede it.
+    const QString code = setUpTranslation();
+    LinkManager::instance()->setLanguage(code);
     applyStyleSheet();
 }
 

@@ -90,6 +90,11 @@ CleanupPage::CleanupPage(QWidget* parent)
     contentLayout->addStretch();
     layout->addWidget(scroll, 1);
 
+    m_rescanTimer = new QTimer(this);
+    m_rescanTimer->setSingleShot(true);
+    m_rescanTimer->setInterval(RescanAfterCleanMs);
+    connect(m_rescanTimer, &QTimer::timeout, this, &CleanupPage::startRescanAfterClean);
+
     // The page is "scanning" from the start, so nothing may start a clean before the first scan.
     setBusy(true);
     QTimer::singleShot(FirstScanDelayMs, m_scanner, &CleanupScanner::scan);
@@ -245,10 +250,22 @@ void CleanupPage::onCleanProgress(int percent)
 
 void CleanupPage::onCleanFinished(qint64 bytesFreed)
 {
+    m_cleaning = false;
+    m_cleanButton->setEnabled(true);
     m_progress->hide();
     m_summaryLine->setText(tr("✓ 清理完成，释放 <b>%1</b>").arg(CleanupRowWidget::formatSize(bytesFreed)));
-    // The buttons come back when the follow-up scan ends, so no clean can overlap it.
-    QTimer::singleShot(RescanAfterCleanMs, m_scanner, &CleanupScanner::scan);
+    // Restarted by every clean that ends, so a clean started meanwhile pushes the rescan past
+    // its own end.
+    m_rescanTimer->start();
+}
+
+void CleanupPage::startRescanAfterClean()
+{
+    if (m_cleaning)
+        return; // the running clean starts the timer again when it ends
+    // The scanner writes the table while it scans: no clean may start until it has finished.
+    setBusy(true);
+    m_scanner->scan();
 }
 
 void CleanupPage::onCleanClicked()
@@ -260,6 +277,8 @@ void CleanupPage::onCleanClicked()
     }
     if (positions.isEmpty())
         return;
+    m_cleaning = true;
+    m_rescanTimer->stop();
     setBusy(true);
     m_progress->setValue(0);
     m_progress->show();

@@ -8,6 +8,7 @@ class CleanupScanner;
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class QTimer;
 
 // The disk-cleanup page: a header card with the total found, one row per junk category, and a
 // bar to select and clean them. It scans by itself shortly after it is built.
@@ -39,6 +40,7 @@ private:
     QWidget* createBottomBar();
     void updateSelectionSummary();
     void setBusy(bool busy);
+    void startRescanAfterClean();
 
     CleanupScanner* m_scanner = nullptr;
     QList<CleanupRowWidget*> m_rows;
@@ -51,4 +53,6 @@ private:
     QPushButton* m_selectAllButton = nullptr;
     QPushButton* m_cleanButton = nullptr;
     QLabel* m_bottomSummary = nullptr;
+    QTimer* m_rescanTimer = nullptr;
+    bool m_cleaning = false;
 };

@@ -165,8 +165,10 @@ void CleanupScanner::buildTable()
     if (edge.isEmpty())
         edge = { localAppData + QStringLiteral("/Microsoft/Edge/User Data/Default/Cache") };
     QStringList firefox = firefoxCacheFolders(roamingAppData, localAppData);
-    if (firefox.isEmpty())
-        firefox = { roamingAppData + QStringLiteral("/Mozilla/Firefox/Profiles") };
+    if (firefox.isEmpty()) {
+        m_firefoxProfiles = roamingAppData + QStringLiteral("/Mozilla/Firefox/Profiles");
+        firefox = { m_firefoxProfiles };
+    }
 
     m_categories = {
         { QStringLiteral("win_temp"), tr("Windows 临时文件"), QStringLiteral("🗂️"),
@@ -204,6 +206,29 @@ void CleanupScanner::track(const QFuture<void>& future)
     m_tasks.append(future);
 }
 
+QStringList CleanupScanner::workFolders(const QStringList& paths) const
+{
+    if (m_firefoxProfiles.isEmpty() || !paths.contains(m_firefoxProfiles))
+        return paths;
+    // The profiles folder stands in the list for the caches below it, but the profiles hold the
+    // user's bookmarks, passwords and keys: only their cache folders are ever measured or emptied.
+    QStringList folders;
+    for (const QString& path : paths) {
+        if (path != m_firefoxProfiles) {
+            folders.append(path);
+            continue;
+        }
+        for (const QString& profile : profileFolders(path)) {
+            for (const QString& cache : firefoxCacheNames()) {
+                const QString folder = path + QLatin1Char('/') + profile + QLatin1Char('/') + cache;
+                if (folderExists(folder))
+                    folders.append(folder);
+            }
+        }
+    }
+    return folders;
+}
+
 qint64 CleanupScanner::measure(const QStringList& paths) const
 {
     platform::FileSystem& fs = fileSystem();
@@ -228,7 +253,7 @@ void CleanupScanner::runScan()
     for (int i = 0; i < n; ++i) {
         if (m_stopping)
             return;
-        m_categories[i].size = measure(m_categories[i].paths);
+        m_categories[i].size = measure(workFolders(m_categories[i].paths));
         emit scanProgress(percentOf(i + 1, n));
     }
     emit scanFinished();
@@ -254,7 +279,7 @@ void CleanupScanner::runClean(const QList<int>& positions)
         const int i = positions.at(k - 1);
         if (i < 0 || i >= m_categories.size())
             continue;
-        const QStringList& paths = m_categories.at(i).paths;
+        const QStringList paths = workFolders(m_categories.at(i).paths);
         const qint64 before = measure(paths);
         for (const QString& path : paths)
             fs.emptyFolder(path.toStdWString()); // what stays is simply not counted as freed

@@ -40,10 +40,14 @@ private:
     void buildTable();
     void runScan();
     void runClean(const QList<int>& positions);
+    // The folders a scan or clean of these listed paths works in.
+    QStringList workFolders(const QStringList& paths) const;
     qint64 measure(const QStringList& paths) const;
     void track(const QFuture<void>& future);
 
     QList<JunkCategory> m_categories;
+    // The Firefox profiles folder when it is listed in place of cache folders; empty otherwise.
+    QString m_firefoxProfiles;
     std::atomic<bool> m_stopping { false };
     QList<QFuture<void>> m_tasks; // only touched on the owner's thread
 };

@@ -10,6 +10,7 @@ class FileSystem;
 class IconExtractor;
 class Launcher;
 class Processes;
+class PackageCatalogue;
 class Registry;
 class SystemCounters;
 class WindowFrame;
@@ -28,6 +29,7 @@ public:
     virtual Launcher& launcher() = 0;
     virtual IconExtractor& icons() = 0;
     virtual Processes& processes() = 0;
+    virtual PackageCatalogue& packages() = 0;
 
     // Empty on Windows; the sandbox folder otherwise.
     virtual std::wstring sandboxRoot() const = 0;

@@ -5,6 +5,7 @@
 #include <platform/environment.h>
 #include <platform/iconextractor.h>
 #include <platform/platform.h>
+#include <platform/uninstallcommandline.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -75,6 +76,9 @@ QImage ProgramIcon::fromLocation(const QString& text)
             return QImage();
         loc.path = expanded;
     }
+    // Reading an icon from a share would make the list contact another machine.
+    if (platform::isNetworkPath(loc.path.toStdWString()))
+        return QImage();
     // Expanded variables may bring forward slashes and the entry backslashes; one kind of
     // separator serves both the existence check and the extraction.
     const QString path = QDir::toNativeSeparators(loc.path.replace(QLatin1Char('\\'), QLatin1Char('/')));

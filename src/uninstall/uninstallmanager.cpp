@@ -1,10 +1,10 @@
 #include "uninstallmanager.h"
 
-#include "uninstallcommand.h"
-
 #include <platform/environment.h>
+#include <platform/filesystem.h>
 #include <platform/launcher.h>
 #include <platform/platform.h>
+#include <platform/uninstallcommandline.h>
 #include <platform/uninstallentries.h>
 
 #include <QDateTime>
@@ -273,7 +273,8 @@ QString UninstallManager::localPath(const QString& windowsPath)
 
 QString UninstallManager::mainExecutable(const QString& installLocation)
 {
-    if (installLocation.isEmpty())
+    // Listing a share would make the inventory contact another machine.
+    if (installLocation.isEmpty() || platform::isNetworkPath(installLocation.toStdWString()))
         return QString();
     const QString folder = localPath(installLocation);
     // A relative location would be looked up in whatever folder this process runs in.
@@ -399,11 +400,14 @@ QString UninstallManager::historyFilePath()
 void UninstallManager::loadHistory()
 {
     QList<UninstalledApp> list;
+    bool readable = true;
     QFile file(historyFilePath());
     if (file.exists() && file.size() > MaxHistoryBytes) {
         qWarning() << "[UninstallManager] History file too large, ignored:" << file.size() << "bytes";
+        readable = false;
     } else if (file.open(QIODevice::ReadOnly)) {
-        const QJsonDocument doc = QJsonDocument::fromJson(file.read(MaxHistoryBytes + 1));
+        const QByteArray content = file.read(MaxHistoryBytes + 1);
+        const QJsonDocument doc = QJsonDocument::fromJson(content);
         if (doc.isArray()) {
             const QJsonArray array = doc.array();
             for (const QJsonValue& element : array) {
@@ -418,10 +422,36 @@ void UninstallManager::loadHistory()
                 list << app;
             }
             qDebug() << "[UninstallManager] History loaded:" << list.size() << "entries";
+        } else {
+            // An empty file holds nothing worth keeping.
+            readable = content.trimmed().isEmpty();
         }
+    } else if (file.exists()) {
+        qWarning() << "[UninstallManager] Cannot read history:" << file.errorString();
+        readable = false;
     }
+    m_keepUnreadableHistory = !readable;
     QMutexLocker lock(&m_mutex);
     m_history = list;
+}
+
+bool UninstallManager::keepUnreadableHistory()
+{
+    if (!m_keepUnreadableHistory)
+        return true;
+    const QString path = historyFilePath();
+    const QString backup = path + QStringLiteral(".bak");
+    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink()) {
+        // Renamed, not copied: nothing of it has to be read, however large or unreadable it is.
+        QFile::remove(backup);
+        if (!QFile::rename(path, backup)) {
+            qWarning() << "[UninstallManager] Cannot keep the unreadable history, not saving:" << backup;
+            return false;
+        }
+        qWarning() << "[UninstallManager] Unreadable history kept as:" << backup;
+    }
+    m_keepUnreadableHistory = false;
+    return true;
 }
 
 bool UninstallManager::saveHistory()
@@ -437,6 +467,9 @@ bool UninstallManager::saveHistory()
         o.insert(QLatin1String("uninstalledAt"), app.uninstalledAt.toString(Qt::ISODate));
         array.append(o);
     }
+    // A history this program could not read may still be the user's only record.
+    if (!keepUnreadableHistory())
+        return false;
     // Written beside the old file and swapped in, so a crash mid-write keeps the old history.
     QSaveFile file(historyFilePath());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
@@ -468,19 +501,45 @@ void UninstallManager::recordUninstall(const InstalledApp& app)
     qDebug() << "[UninstallManager] Recorded uninstall:" << app.name;
 }
 
+QString UninstallManager::installFolder(const QString& installLocation)
+{
+    QString text = installLocation;
+    text.remove(QLatin1Char('"'));
+    text = text.trimmed();
+    if (text.contains(QLatin1Char('%')))
+        text = fromWide(platform::current().environment().expand(text.toStdWString()));
+    if (text.isEmpty() || platform::isNetworkPath(text.toStdWString()))
+        return QString();
+    const QString folder = localPath(text);
+    // A relative location would be looked up in whatever folder this process runs in.
+    return QDir::isAbsolutePath(folder) ? folder : QString();
+}
+
 bool UninstallManager::uninstall(const InstalledApp& app)
 {
     emit uninstallStarted(app.name);
     bool ok = false;
-    if (auto command = UninstallCommand::parse(app.uninstallString)) {
-        command->addSilentSwitches(app.publisher, app.name);
+    const platform::PreparedUninstall prepared = platform::prepareUninstall(
+        app.uninstallString.toStdWString(), app.publisher.toStdWString(), app.name.toStdWString());
+    if (!prepared.command && !prepared.refusal.empty())
+        qWarning() << "[UninstallManager] Not started:" << app.name << "-" << fromWide(prepared.refusal);
+    if (const auto& command = prepared.command) {
+        QStringList arguments;
+        for (const std::wstring& argument : command->arguments)
+            arguments << fromWide(argument);
         qDebug() << "[UninstallManager] Uninstalling:" << app.name;
-        qDebug() << "[UninstallManager] Program:" << command->program << "Args:" << command->arguments;
+        qDebug() << "[UninstallManager] Program:" << fromWide(command->program) << "Args:" << arguments;
+
+        // Only a folder seen before the start can be seen to go: a location that never existed
+        // says nothing about the uninstaller.
+        const QString folder = installFolder(app.installLocation);
+        platform::FileSystem& fs = platform::current().fileSystem();
+        const bool folderBefore = !folder.isEmpty() && fs.isFolder(folder.toStdWString());
 
         platform::ShellExecuteRequest request;
         request.verb = L"open"; // elevation is left to the uninstaller's own manifest
-        request.file = command->program.toStdWString();
-        request.parameters = command->parameters().toStdWString();
+        request.file = command->program;
+        request.parameters = command->parameters();
         request.show = platform::ShowNormal;
         request.started = [] { qDebug() << "[UninstallManager] Waiting for uninstaller..."; };
         const platform::ShellExecuteResult result
@@ -495,7 +554,7 @@ bool UninstallManager::uninstall(const InstalledApp& app)
         }
         // Many uninstallers hand over to a copy of themselves and report an odd code; a folder
         // that is gone says more than the code does.
-        if (!ok && !app.installLocation.isEmpty() && !QFileInfo(localPath(app.installLocation)).isDir()) {
+        if (!ok && folderBefore && !fs.isFolder(folder.toStdWString())) {
             qDebug() << "[UninstallManager] Install dir gone,"
                      << "treating as success:" << app.name;
             ok = true;

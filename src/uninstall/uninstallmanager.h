@@ -64,6 +64,9 @@ public:
     static QDate fileTimeToDate(quint64 fileTime);
     // A Windows path as this machine reaches it (the sandbox maps "C:\..." into its folder).
     static QString localPath(const QString& windowsPath);
+    // The install location as a local folder to look at (quotes removed, variables expanded), or
+    // an empty text for none, a relative one or one on a network path.
+    static QString installFolder(const QString& installLocation);
 
     static constexpr int UninstallTimeoutMs = 300000; // five minutes, then the uninstaller is left alone
 
@@ -75,6 +78,8 @@ signals:
 
 private:
     void rebuild();
+    // Moves a history that could not be loaded out of the way before it is first replaced.
+    bool keepUnreadableHistory();
     QDate today() const;
 
     mutable QMutex m_mutex;
@@ -87,4 +92,5 @@ private:
     QFuture<void> m_batch;
     std::atomic_bool m_refreshing { false };
     std::atomic_bool m_stopping { false };
+    std::atomic_bool m_keepUnreadableHistory { false };
 };

@@ -30,6 +30,29 @@ private slots:
     }
     void cleanup() { qInstallMessageHandler(nullptr); }
 
+    // First of all cases: the link catalogue is created once per process, and only its first
+    // creation logs. Lines are compared by their fixed start, values aside.
+    void wholeStartUpLogsInOrder()
+    {
+        QSettings(QStringLiteral("Brightfen"), QStringLiteral("Norvale")).setValue(QStringLiteral("language"), "en");
+        Startup::prepareApplication();
+        const QStringList expected = { "========== Translation Init ==========", "[Main] Translation code: \"en\"",
+            "[Main] QM file: \":/translations/translations/Norvale_en.qm\"", "[Main] Translation loaded: \"en\"",
+            "=====================================", "[LinkManager] 元数据加载成功",
+            "[LinkManager] 版本:", "[LinkManager] 更新日期:", "[LinkManager] 使用用户设置的语言: \"en\"",
+            "[LinkManager] 初始化完成", "[LinkManager] 当前语言: \"en\"", "[LinkManager] 支持的语言:" };
+        QStringList ours;
+        for (const QString& line : std::as_const(g_log)) {
+            if (line.startsWith(QLatin1String("[Main]")) || line.startsWith(QLatin1String("[LinkManager]"))
+                || line.startsWith(QLatin1String("=====")))
+                ours << line;
+        }
+        QCOMPARE(ours.size(), expected.size());
+        for (int i = 0; i < expected.size(); ++i)
+            QVERIFY2(ours.at(i).startsWith(expected.at(i)), qPrintable(ours.at(i) + " <> " + expected.at(i)));
+        qApp->setStyleSheet(QString());
+    }
+
     void translationLog_data()
     {
         QTest::addColumn<QString>("stored");

@@ -14,6 +14,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "platform/filesystem.h"
+
+#include <condition_variable>
+#include <mutex>
+
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
@@ -33,6 +38,8 @@ public:
         platform::setCurrent(&m_platform);
     }
     ~CleanupSandbox() { platform::setCurrent(nullptr); }
+
+    platform::Platform& platform() const { return m_platform; }
 
     // Beside the machine, for what no clean may ever reach.
     QString outside(const QString& relative) const { return m_dir.filePath(QStringLiteral("outside/") + relative); }
@@ -57,6 +64,88 @@ public:
 private:
     QTemporaryDir m_dir;
     mutable platform::SandboxPlatform m_platform;
+};
+
+// The sandbox's file system with a gate in emptyFolder(): a test holds a clean there for as long
+// as it likes, and every measuring that happens meanwhile (a scan) is counted as an overlap.
+class GatedFileSystem final : public platform::FileSystem {
+public:
+    explicit GatedFileSystem(platform::FileSystem& inner)
+        : m_inner(inner)
+    {
+    }
+
+    bool isFolder(const std::wstring& path) override { return m_inner.isFolder(path); }
+    std::optional<std::vector<std::wstring>> subFolders(const std::wstring& folder) override
+    {
+        return m_inner.subFolders(folder);
+    }
+    std::int64_t folderSize(const std::wstring& folder) override
+    {
+        if (m_emptying > 0)
+            ++overlaps;
+        return m_inner.folderSize(folder);
+    }
+    platform::EmptyFolderResult emptyFolder(const std::wstring& folder) override
+    {
+        ++m_emptying;
+        {
+            std::unique_lock<std::mutex> lock(m_mutex);
+            m_held = m_holding;
+            m_changed.wait(lock, [this] { return !m_holding; });
+        }
+        const platform::EmptyFolderResult result = m_inner.emptyFolder(folder);
+        --m_emptying;
+        return result;
+    }
+
+    void hold(bool on)
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_holding = on;
+        m_changed.notify_all();
+    }
+    bool held()
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        return m_held;
+    }
+
+    std::atomic<int> overlaps { 0 };
+
+private:
+    platform::FileSystem& m_inner;
+    std::atomic<int> m_emptying { 0 };
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_holding = false;
+    bool m_held = false;
+};
+
+class GatedPlatform final : public platform::Platform {
+public:
+    explicit GatedPlatform(platform::Platform& inner)
+        : m_inner(inner)
+        , files(inner.fileSystem())
+    {
+        platform::setCurrent(this);
+    }
+    ~GatedPlatform() override { platform::setCurrent(&m_inner); }
+
+    platform::Registry& registry() override { return m_inner.registry(); }
+    platform::Environment& environment() override { return m_inner.environment(); }
+    platform::WindowFrame& windowFrame() override { return m_inner.windowFrame(); }
+    platform::SystemCounters& counters() override { return m_inner.counters(); }
+    platform::FileSystem& fileSystem() override { return files; }
+    platform::Launcher& launcher() override { return m_inner.launcher(); }
+    platform::IconExtractor& icons() override { return m_inner.icons(); }
+    std::wstring sandboxRoot() const override { return m_inner.sandboxRoot(); }
+
+private:
+    platform::Platform& m_inner;
+
+public:
+    GatedFileSystem files;
 };
 
 enum Category { WuCache = 1, Chrome, Firefox = 4, Prefetch = 6, Dumps = 8 };
@@ -101,7 +190,7 @@ private slots:
         CleanupSandbox sandbox;
         const QStringList places = { "C:/Windows/Temp/a", "L:Temp/nested/b",
             "C:/Windows/SoftwareDistribution/Download/c", "L:Google/Chrome/User Data/Default/Cache/d",
-            "L:Microsoft/Edge/User Data/Default/Cache/e", "R:Mozilla/Firefox/Profiles/x.default/f",
+            "L:Microsoft/Edge/User Data/Default/Cache/e", "R:Mozilla/Firefox/Profiles/x.default/cache2/f",
             "C:/Windows/Logs/CBS/g", "C:/Windows/Prefetch/h", "L:Microsoft/Windows/Explorer/i", "L:CrashDumps/j",
             "C:/ProgramData/Microsoft/Windows/WER/ReportQueue/k", "C:/Windows/Minidump/l", "C:/$Recycle.Bin/S-1-5-21/m",
             "C:/Windows.old/Windows/n",
@@ -225,6 +314,72 @@ private slots:
         QVERIFY(QFileInfo(prefetch).isDir()); // the category folder itself always stays
     }
 
+    // With no cache folder at start-up the row lists the profiles folder, yet a profile holds
+    // bookmarks, passwords and keys: only cache2, startupCache and shader-cache inside a profile
+    // may be measured or emptied. Entries are "path:bytes" below the profiles folder; a path
+    // ending in "->" is a link to a folder outside the machine that holds 16000 bytes.
+    void firefoxFallbackReachesOnlyCaches_data()
+    {
+        QTest::addColumn<QStringList>("atStart");
+        QTest::addColumn<QStringList>("later"); // made after the table was built
+        QTest::addColumn<qint64>("cacheBytes");
+
+        const QStringList profile = { "x.default/places.sqlite:100", "x.default/key4.db:200",
+            "x.default/storage/default/idb.sqlite:400", "stray.txt:800" };
+        QTest::newRow("no cache anywhere: nothing counted, nothing deleted") << profile << QStringList() << qint64(0);
+        QTest::newRow("caches made later are the only thing emptied")
+            << profile
+            << QStringList { "x.default/cache2/entries/A:1000", "y.other/startupCache/s.bin:2000",
+                   "y.other/shader-cache/s.bin:4000", "y.other/cache2x/not-a-cache:8000", "y.other/prefs.js:16" }
+            << qint64(7000);
+        QTest::newRow("a cache folder that is a link is not entered")
+            << profile << QStringList { "x.default/cache2->" } << qint64(0);
+    }
+
+    void firefoxFallbackReachesOnlyCaches()
+    {
+        QFETCH(QStringList, atStart);
+        QFETCH(QStringList, later);
+        QFETCH(qint64, cacheBytes);
+        CleanupSandbox sandbox;
+        const QString profiles = sandbox.machine("R:Mozilla/Firefox/Profiles");
+        const QString outside = sandbox.outside("elsewhere/precious.bin");
+        QVERIFY(CleanupSandbox::write(outside, 16000));
+        const auto make = [&](const QStringList& entries) {
+            for (const QString& entry : entries) {
+                if (entry.endsWith("->")) {
+                    const QString link = profiles + '/' + entry.chopped(2);
+                    QVERIFY(QDir().mkpath(QFileInfo(link).path()) && QFile::link(QFileInfo(outside).path(), link));
+                } else {
+                    QVERIFY(CleanupSandbox::write(
+                        profiles + '/' + entry.section(':', 0, 0), entry.section(':', 1).toInt()));
+                }
+            }
+        };
+        make(atStart);
+        CleanupScanner scanner;
+        QCOMPARE(scanner.categories().at(Firefox).paths, QStringList { profiles });
+        make(later);
+
+        QSignalSpy scanned(&scanner, &CleanupScanner::scanFinished);
+        scanner.scan();
+        QTRY_COMPARE_WITH_TIMEOUT(scanned.count(), 1, 10000);
+        QCOMPARE(scanner.categories().at(Firefox).size, cacheBytes);
+
+        QSignalSpy cleaned(&scanner, &CleanupScanner::cleanFinished);
+        scanner.clean({ Firefox });
+        QTRY_COMPARE_WITH_TIMEOUT(cleaned.count(), 1, 10000);
+        QCOMPARE(cleaned.at(0).at(0).value<qint64>(), cacheBytes);
+        for (const QString& entry : atStart + later) {
+            const QString path = profiles + '/' + entry.section(':', 0, 0).remove("->");
+            const bool cache
+                = QRegularExpression("^[^/]+/(cache2|startupCache|shader-cache)/.").match(entry).hasMatch();
+            QVERIFY2(QFileInfo::exists(path) != cache, qPrintable(entry));
+        }
+        QVERIFY(QFileInfo::exists(profiles + "/x.default/cache2") || !later.join(' ').contains("cache2/"));
+        QCOMPARE(QFileInfo(outside).size(), 16000);
+    }
+
     void rowSizeAndColours_data()
     {
         QTest::addColumn<qint64>("bytes");
@@ -304,9 +459,46 @@ private slots:
         QPushButton* clean = button(page, "CleanupCleanButton");
         QTRY_VERIFY_WITH_TIMEOUT(scanned.count() == 1 && clean->isEnabled(), 10000);
         QTest::mouseClick(clean, Qt::LeftButton);
+        // A clean started by mistake would report from the pool after a moment, not at once.
+        QTest::qWait(1500);
         QVERIFY(!progressShown(page));
         QCOMPARE(cleaned.count(), 0);
+        QVERIFY(clean->isEnabled());
         QVERIFY(QFileInfo::exists(sandbox.machine("C:/Windows/Prefetch/a.pf")));
+    }
+
+    // The clean button is back as soon as a clean ends; a clean started before the follow-up scan
+    // pushes that scan past its own end, so the two never work at the same time.
+    void cleanAgainBeforeTheRescan()
+    {
+        CleanupSandbox sandbox;
+        GatedPlatform gated(sandbox.platform());
+        const QString prefetch = sandbox.machine("C:/Windows/Prefetch");
+        QVERIFY(CleanupSandbox::write(prefetch + "/a.pf", 3000));
+        CleanupPage page(nullptr);
+        QSignalSpy scanned(page.scanner(), &CleanupScanner::scanFinished);
+        QSignalSpy cleaned(page.scanner(), &CleanupScanner::cleanFinished);
+        QPushButton* clean = button(page, "CleanupCleanButton");
+        QTRY_VERIFY_WITH_TIMEOUT(scanned.count() == 1 && clean->isEnabled(), 10000);
+
+        QTest::mouseClick(clean, Qt::LeftButton);
+        // The spy counts in the pool thread; the hidden bar shows the page has handled the end too.
+        QTRY_VERIFY_WITH_TIMEOUT(cleaned.count() == 1 && !progressShown(page), 10000);
+        QVERIFY(clean->isEnabled());
+
+        QVERIFY(CleanupSandbox::write(prefetch + "/b.pf", 5000));
+        gated.files.hold(true);
+        const auto release = qScopeGuard([&] { gated.files.hold(false); });
+        QTest::mouseClick(clean, Qt::LeftButton);
+        QVERIFY(!clean->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(gated.files.held(), 10000);
+        QTest::qWait(1200); // well past the moment the rescan was due
+        QCOMPARE(scanned.count(), 1);
+        gated.files.hold(false);
+        QTRY_COMPARE_WITH_TIMEOUT(cleaned.count(), 2, 10000);
+        QCOMPARE(cleaned.at(1).at(0).value<qint64>(), 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(scanned.count() == 2 && clean->isEnabled(), 10000);
+        QCOMPARE(gated.files.overlaps.load(), 0);
     }
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/packagecatalogue.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
 
@@ -30,5 +31,9 @@ platform::Processes& contractProcesses();
 std::optional<StartedProcess> startLongRunningProcess();
 // Waits until the process has ended (a real process takes a moment to go), and reaps it.
 bool waitUntilEnded(std::uint32_t pid);
+
+// The lane's packaged-app catalogue: a sandbox without a catalogue file natively, the real
+// package manager under Wine; neither has the package runtime.
+std::unique_ptr<platform::PackageCatalogue> makeContractCatalogue();
 
 } // namespace contract

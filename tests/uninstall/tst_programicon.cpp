@@ -1,6 +1,62 @@
 #include "uninstall/programicon.h"
 
+#include "platform/environment.h"
+#include "platform/iconextractor.h"
+#include "platform/platform.h"
+#include "platform/sandbox/sandboxplatform.h"
+
+#include <QDir>
+#include <QImage>
+#include <QTemporaryDir>
 #include <QTest>
+
+namespace {
+
+// A sandbox machine whose icon extraction writes down every file it is asked to read.
+class RecordingIcons final : public platform::IconExtractor {
+public:
+    explicit RecordingIcons(platform::IconExtractor& inner)
+        : m_inner(inner)
+    {
+    }
+    platform::IconResult extract(const std::wstring& path, int index) override
+    {
+        paths << QString::fromStdWString(path);
+        return m_inner.extract(path, index);
+    }
+    QStringList paths;
+
+private:
+    platform::IconExtractor& m_inner;
+};
+
+class IconPlatform final : public platform::Platform {
+public:
+    explicit IconPlatform(const QString& root)
+        : m_sandbox(root.toStdWString())
+        , icons_(m_sandbox.icons())
+    {
+        platform::setCurrent(this);
+    }
+    ~IconPlatform() override { platform::setCurrent(nullptr); }
+
+    platform::Registry& registry() override { return m_sandbox.registry(); }
+    platform::Environment& environment() override { return m_sandbox.environment(); }
+    platform::WindowFrame& windowFrame() override { return m_sandbox.windowFrame(); }
+    platform::SystemCounters& counters() override { return m_sandbox.counters(); }
+    platform::FileSystem& fileSystem() override { return m_sandbox.fileSystem(); }
+    platform::Launcher& launcher() override { return m_sandbox.launcher(); }
+    platform::IconExtractor& icons() override { return icons_; }
+    std::wstring sandboxRoot() const override { return m_sandbox.sandboxRoot(); }
+
+private:
+    platform::SandboxPlatform m_sandbox;
+
+public:
+    RecordingIcons icons_;
+};
+
+} // namespace
 
 class tst_ProgramIcon : public QObject {
     Q_OBJECT
@@ -33,6 +89,51 @@ private slots:
         const ProgramIcon::Location loc = ProgramIcon::parseLocation(text);
         QCOMPARE(loc.path, path);
         QCOMPARE(loc.index, index);
+    }
+
+    // An icon, uninstaller or install folder on a share is never read: the list would contact
+    // another machine. On this system "//tmp/x" is "/tmp/x", so a lookup that did not refuse the
+    // share would find the real files and ask for their icons.
+    void networkPathsAreNotRead_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("value"); // "<app>" stands for the program's folder as a share
+        QTest::addColumn<bool>("found");
+        QTest::newRow("local icon: the control") << "displayIcon"
+                                                 << "C:\\App\\app.png,0" << true;
+        QTest::newRow("icon on a share") << "displayIcon"
+                                         << "\"<app>\\app.png\",0" << false;
+        QTest::newRow("uninstaller on a share") << "uninstallString"
+                                                << "\"<app>\\unins000.exe\" /S" << false;
+        QTest::newRow("install folder on a share") << "installLocation"
+                                                   << "<app>" << false;
+    }
+
+    void networkPathsAreNotRead()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, value);
+        QFETCH(bool, found);
+        QTemporaryDir dir;
+        IconPlatform machine(dir.path());
+        const QString folder = QString::fromStdWString(machine.environment().mapPath(L"C:/App"));
+        QVERIFY(QDir().mkpath(folder));
+        QImage image(8, 8, QImage::Format_ARGB32);
+        image.fill(Qt::red);
+        for (const char* name : { "app.png", "unins000.exe.0.png", "unins000.exe", "main.exe.0.png", "main.exe" })
+            QVERIFY(image.save(folder + '/' + name, "PNG"));
+        // Backslashes as an entry writes them; a listing on this system needs forward slashes.
+        const QString share
+            = field == "installLocation" ? '/' + folder : QDir::toNativeSeparators('/' + folder).replace('/', '\\');
+        value.replace("<app>", share);
+
+        InstalledApp app;
+        (field == "displayIcon"              ? app.displayIcon
+                : field == "uninstallString" ? app.uninstallString
+                                             : app.installLocation)
+            = value;
+        QCOMPARE(!ProgramIcon::forApp(app).isNull(), found);
+        QCOMPARE(machine.icons_.paths.isEmpty(), !found);
     }
 
     void missingFileGivesNoImage()

@@ -1,8 +1,11 @@
 #include <uninstall/uninstallmanager.h>
 
+#include <platform/launcher.h>
 #include <platform/platform.h>
 #include <platform/sandbox/sandboxplatform.h>
 #include <platform/uninstallentries.h>
+
+#include "../platform/win/uninstall_sample.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -37,23 +40,71 @@ void put(const QString& windowsPath, const QByteArray& content)
     QVERIFY(f.open(QIODevice::WriteOnly) && f.write(content) == content.size());
 }
 
+// The sandbox machine, with every start through the shell written down. Windows Installer is
+// played as the real one behaves: "/X" of a product runs its removal, while an "/I" of an installed
+// product is a maintenance pass that changes nothing and exits 0.
+class RecordingPlatform final : public platform::Platform, public platform::Launcher {
+public:
+    explicit RecordingPlatform(platform::Platform& inner)
+        : m_inner(inner)
+    {
+    }
+
+    QList<platform::ShellExecuteRequest> requests;
+
+    platform::ShellExecuteResult shellExecuteAndWait(
+        const platform::ShellExecuteRequest& request, std::uint32_t timeoutMs) override
+    {
+        requests << request;
+        const QString params = QString::fromStdWString(request.parameters);
+        if (QString::fromStdWString(request.file).compare("msiexec.exe", Qt::CaseInsensitive) == 0
+            && !params.contains(QRegularExpression("(^| )/x", QRegularExpression::CaseInsensitiveOption))) {
+            platform::ShellExecuteResult maintenance;
+            std::tie(maintenance.started, maintenance.waitResult, maintenance.exitCode)
+                = std::tuple(true, platform::WaitObject0, 0u);
+            return maintenance;
+        }
+        return m_inner.launcher().shellExecuteAndWait(request, timeoutMs);
+    }
+
+    platform::Registry& registry() override { return m_inner.registry(); }
+    platform::Environment& environment() override { return m_inner.environment(); }
+    platform::WindowFrame& windowFrame() override { return m_inner.windowFrame(); }
+    platform::SystemCounters& counters() override { return m_inner.counters(); }
+    platform::FileSystem& fileSystem() override { return m_inner.fileSystem(); }
+    platform::Launcher& launcher() override { return *this; }
+    platform::IconExtractor& icons() override { return m_inner.icons(); }
+    std::wstring sandboxRoot() const override { return m_inner.sandboxRoot(); }
+
+private:
+    platform::Platform& m_inner;
+};
+
 } // namespace
 
 class tst_UninstallManager : public QObject {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<platform::SandboxPlatform> m_platform;
+    std::unique_ptr<RecordingPlatform> m_recording;
     platform::Registry& reg() { return m_platform->registry(); }
 
 private slots:
     void init()
     {
         platform::setCurrent(nullptr);
+        m_recording.reset();
         m_platform.reset();
         m_dir = std::make_unique<QTemporaryDir>();
         m_platform = std::make_unique<platform::SandboxPlatform>(m_dir->path().toStdWString());
-        platform::setCurrent(m_platform.get());
-        QFile::remove(UninstallManager::historyFilePath());
+        m_recording = std::make_unique<RecordingPlatform>(*m_platform);
+        platform::setCurrent(m_recording.get());
+        const QString history = UninstallManager::historyFilePath();
+        for (const QString& path : { history, history + ".bak" }) {
+            QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+            QFile::remove(path);
+            QDir().rmdir(path);
+        }
     }
 
     void skipRules_data()
@@ -169,22 +220,41 @@ private slots:
         QCOMPARE(UninstallManager::rot13("Ünpx {1NP}\\abgrcnq.rkr NOPZnmaz"), "Üack {1AC}\\notepad.exe ABCMaznm");
     }
 
+    // A history that cannot be read may still be the user's only record: it is kept beside the
+    // new one. "<folder>" puts a folder in the file's place, which no one can read as a file.
     void history_data()
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<int>("loaded");
-        QTest::newRow("empty") << QByteArray() << 0;
-        QTest::newRow("not JSON") << QByteArray("uninstall history v1\n") << 0;
-        QTest::newRow("object") << QByteArray(R"({"name":"Tool Box"})") << 0;
-        QTest::newRow("unparsable time") << QByteArray(R"([{"name":"Old","uninstalledAt":"yesterday-ish"}])") << 1;
+        QTest::addColumn<bool>("keptAsBackup");
+        QTest::newRow("empty: nothing to keep") << QByteArray() << 0 << false;
+        QTest::newRow("not JSON") << QByteArray("uninstall history v1\n") << 0 << true;
+        QTest::newRow("cut short") << QByteArray("[{\"name\":\"Tool Box\",\"publisher\":\"Bri") << 0 << true;
+        QTest::newRow("object") << QByteArray(R"({"name":"Tool Box"})") << 0 << true;
+        QTest::newRow("over the size accepted") << QByteArray("<32 MiB and one byte>") << 0 << true;
+        QTest::newRow("cannot be read") << QByteArray("<folder>") << 0 << true;
+        QTest::newRow("unparsable time") << QByteArray(R"([{"name":"Old","uninstalledAt":"yesterday-ish"}])") << 1
+                                         << false;
     }
     void history()
     {
         QFETCH(QByteArray, content);
         QFETCH(int, loaded);
-        QFile file(UninstallManager::historyFilePath());
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        file.close();
+        QFETCH(bool, keptAsBackup);
+        const QString path = UninstallManager::historyFilePath();
+        QFile file(path);
+        if (content == "<folder>") {
+            QVERIFY(QDir().mkdir(path));
+        } else {
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            if (content.startsWith("<32 MiB"))
+                QVERIFY(file.write("[") == 1 && file.resize(32 * 1024 * 1024 + 1)); // sparse
+            else
+                QVERIFY(file.write(content) == content.size());
+            file.close();
+        }
+        const bool wasFile = QFileInfo(path).isFile();
+        const qint64 sizeBefore = QFileInfo(path).size();
         {
             UninstallManager manager;
             QCOMPARE(manager.history().size(), loaded);
@@ -192,9 +262,10 @@ private slots:
             std::tie(a.name, a.publisher, a.installLocation, a.displayIcon)
                 = std::tuple("Tool Box", "Brightwork", "C:\\Tools", "C:\\Tools\\tool.exe,0");
             manager.recordUninstall(a);
+            manager.recordUninstall(a); // the backup is made once, before the first save only
         }
         const QList<UninstalledApp> history = UninstallManager().history();
-        QCOMPARE(history.size(), loaded + 1);
+        QCOMPARE(history.size(), loaded + 2);
         const UninstalledApp& h = history.last();
         QCOMPARE(QStringList({ h.name, h.publisher, h.installLocation, h.displayIcon }),
             QStringList({ "Tool Box", "Brightwork", "C:\\Tools", "C:\\Tools\\tool.exe,0" }));
@@ -205,6 +276,16 @@ private slots:
         QCOMPARE(saved.last()["uninstalledAt"].toString().size(), 19);
         if (loaded)
             QCOMPARE(saved[0]["uninstalledAt"], QJsonValue(""));
+
+        const QFileInfo backup(path + ".bak");
+        QCOMPARE(backup.exists(), keptAsBackup);
+        if (keptAsBackup && wasFile) {
+            QCOMPARE(backup.size(), sizeBefore);
+            QFile kept(backup.filePath());
+            QVERIFY(kept.open(QIODevice::ReadOnly));
+            QCOMPARE(kept.read(content.size()),
+                content.startsWith('<') ? QByteArray("[") + QByteArray(content.size() - 1, 0) : content);
+        }
     }
 
     void uninstall_data()
@@ -212,32 +293,42 @@ private slots:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("script"); // how the sandbox plays the uninstaller; empty: it refuses to
         QTest::addColumn<QString>("location");
+        QTest::addColumn<QString>("refusal"); // what the log says when nothing may be started
         QTest::addColumn<bool>("ok");
         const QString exe = "C:\\Tool\\unins000.exe";
-        QTest::newRow("exit 0") << "\"" + exe + "\" /S"
-                                << "exit=0\n"
-                                << "C:\\Tool" << true;
-        QTest::newRow("exit 1, folder removed") << exe << "exit=1\ndelete=C:\\Tool\n"
-                                                << "C:\\Tool" << true;
-        QTest::newRow("exit 1, folder stays") << exe << "exit=1\n"
-                                              << "C:\\Tool" << false;
-        QTest::newRow("exit 1, no location") << exe << "exit=1\ndelete=C:\\Tool\n"
-                                             << "" << false;
-        QTest::newRow("time-out, folder stays") << exe << "running=1\n"
-                                                << "C:\\Tool" << false;
-        QTest::newRow("missing program, folder gone") << "C:\\Gone\\unins000.exe"
-                                                      << ""
-                                                      << "C:\\Gone" << true;
+        auto row = [](const char* what, const QString& command, const QString& script, const QString& location, bool ok,
+                       const QString& refusal = QString()) {
+            QTest::newRow(what) << command << script << location << refusal << ok;
+        };
+        row("exit 0", "\"" + exe + "\" /S", "exit=0\n", "C:\\Tool", true);
+        row("exit 1, folder removed", exe, "exit=1\ndelete=C:\\Tool\n", "C:\\Tool", true);
+        row("exit 1, folder stays", exe, "exit=1\n", "C:\\Tool", false);
+        row("exit 1, no location", exe, "exit=1\ndelete=C:\\Tool\n", "", false);
+        row("time-out, folder stays", exe, "running=1\n", "C:\\Tool", false);
+        // The folder test looks at the folder itself, whatever way the entry writes it.
+        row("exit 1, quoted location with a variable stays", exe, "exit=1\n", "\"%SystemDrive%\\Tool\"", false);
+        row("exit 1, quoted location with a variable removed", exe, "exit=1\ndelete=C:\\Tool\n",
+            "\"%SystemDrive%\\Tool\"", true);
+        // A location that was never there says nothing about the uninstaller.
+        row("missing program, location never existed", "C:\\Gone\\unins000.exe", "", "C:\\Gone", false);
+        row("a script is not started", "C:\\Tool\\remove.cmd /S", "", "C:\\Gone", false, "no .exe");
+        row("a URL is not started", "https://example.com/unins000.exe", "", "C:\\Gone", false, "URL");
+        row("a share is not started", "\\\\server\\share\\unins000.exe /S", "", "C:\\Tool", false, "network path");
     }
     void uninstall()
     {
         QFETCH(QString, command);
         QFETCH(QString, script);
         QFETCH(QString, location);
+        QFETCH(QString, refusal);
         QFETCH(bool, ok);
         put("C:\\Tool\\unins000.exe", "MZ");
+        put("C:\\Tool\\remove.cmd", "@echo off");
         if (!script.isEmpty())
             put("C:\\Tool\\unins000.exe.demo-uninstall", script.toUtf8());
+        if (!refusal.isEmpty())
+            QTest::ignoreMessage(
+                QtWarningMsg, QRegularExpression("^\\[UninstallManager\\] Not started: \"Tool\" - \".*" + refusal));
         InstalledApp a;
         std::tie(a.name, a.uninstallString, a.installLocation) = std::tuple("Tool", command, location);
         UninstallManager manager;
@@ -245,6 +336,59 @@ private slots:
         QCOMPARE(manager.uninstall(a), ok);
         QCOMPARE(finished, QList<QVariantList>({ { "Tool", ok } }));
         QCOMPARE(UninstallManager().history().size(), ok ? 1 : 0); // saved as well
+        QCOMPARE(m_recording->requests.size(), refusal.isEmpty() ? 1 : 0);
+    }
+
+    // The entry Windows Installer writes for the sample package, read by the inventory and
+    // uninstalled: "/I" would only repair it, so it has to run as "/X". The Wine lane runs the
+    // same preparation against the real msiexec.
+    void msiEntryFromTheInventoryIsRemoved()
+    {
+        const std::wstring key = sample_msi::KeyPath;
+        reg().setString(Hive::LocalMachine, key, L"DisplayName", sample_msi::DisplayName);
+        reg().setString(Hive::LocalMachine, key, L"Publisher", sample_msi::Publisher);
+        reg().setString(Hive::LocalMachine, key, L"DisplayVersion", sample_msi::DisplayVersion);
+        reg().setString(Hive::LocalMachine, key, L"InstallDate", L"20250101");
+        reg().setString(Hive::LocalMachine, key, L"InstallLocation", L"");
+        reg().setString(
+            Hive::LocalMachine, key, L"UninstallString", sample_msi::UninstallString, platform::TypeExpandString);
+        reg().setDword(Hive::LocalMachine, key, L"EstimatedSize", 0);
+        put("C:\\Windows\\Installer\\" + QString::fromWCharArray(sample_msi::ProductCode) + ".demo-uninstall",
+            "unregister=HKLM\\" + QString::fromWCharArray(sample_msi::KeyPath).toUtf8() + "\n");
+
+        UninstallManager manager;
+        QSignalSpy refreshed(&manager, &UninstallManager::refreshFinished);
+        manager.refresh();
+        QVERIFY(!refreshed.isEmpty() || refreshed.wait());
+        QCOMPARE(manager.apps().size(), 1);
+        const InstalledApp app = manager.apps().first();
+        QVERIFY(manager.uninstall(app));
+
+        QCOMPARE(m_recording->requests.size(), 1);
+        QCOMPARE(QString::fromStdWString(m_recording->requests.first().parameters),
+            QString::fromWCharArray(sample_msi::PreparedParameters));
+        QVERIFY(!platform::readUninstallEntry(reg(), Hive::LocalMachine, key));
+        const QList<UninstalledApp> history = UninstallManager().history();
+        QCOMPARE(history.size(), 1);
+        QCOMPARE(
+            QStringList({ history[0].name, history[0].publisher, history[0].installLocation, history[0].displayIcon }),
+            QStringList({ QString::fromWCharArray(sample_msi::DisplayName),
+                QString::fromWCharArray(sample_msi::Publisher), "", "" }));
+    }
+
+    // Opening a share would make the list contact another machine: an install location there is
+    // never listed for its executables.
+    void networkInstallLocationIsNotListed()
+    {
+        // On this system "//tmp/x" is "/tmp/x", so an old lookup would find the executable.
+        const QString folder = m_dir->filePath("App");
+        QVERIFY(QDir().mkpath(folder));
+        QFile exe(folder + "/app.exe");
+        QVERIFY(exe.open(QIODevice::WriteOnly) && exe.write("MZ") == 2);
+        exe.close();
+        QVERIFY(!UninstallManager::mainExecutable(folder).isEmpty());
+        QCOMPARE(UninstallManager::mainExecutable("/" + folder), QString());
+        QCOMPARE(UninstallManager::installFolder("\"/" + folder + "\""), QString());
     }
 };
 

@@ -7,6 +7,7 @@
 #include "sandboxfilesystem.h"
 #include "sandboxiconextractor.h"
 #include "sandboxlauncher.h"
+#include "sandboxpackagecatalogue.h"
 #include "sandboxprocesses.h"
 #include "sandboxregistry.h"
 
@@ -51,6 +52,7 @@ SandboxPlatform::SandboxPlatform(const std::wstring& root)
     m_launcher = std::make_unique<SandboxLauncher>(m_root, m_registry.get());
     m_icons = std::make_unique<SandboxIconExtractor>(m_root);
     m_processes = std::make_unique<SandboxProcesses>(m_root, *m_environment);
+    m_packages = std::make_unique<SandboxPackageCatalogue>(m_root);
 }
 
 SandboxPlatform::~SandboxPlatform() = default;
@@ -86,6 +88,10 @@ IconExtractor& SandboxPlatform::icons()
 Processes& SandboxPlatform::processes()
 {
     return *m_processes;
+}
+PackageCatalogue& SandboxPlatform::packages()
+{
+    return *m_packages;
 }
 std::wstring SandboxPlatform::sandboxRoot() const
 {

@@ -14,6 +14,7 @@ class SandboxFileSystem;
 class SandboxLauncher;
 class SandboxIconExtractor;
 class SandboxProcesses;
+class SandboxPackageCatalogue;
 class NullWindowFrame;
 
 // A machine in one folder: "<root>/C" is the system drive and "<root>/registry.reg" the registry.
@@ -32,6 +33,7 @@ public:
     Launcher& launcher() override;
     IconExtractor& icons() override;
     Processes& processes() override;
+    PackageCatalogue& packages() override;
     std::wstring sandboxRoot() const override;
 
     static std::wstring registryFileName() { return L"registry.reg"; }
@@ -46,6 +48,7 @@ private:
     std::unique_ptr<SandboxLauncher> m_launcher;
     std::unique_ptr<SandboxIconExtractor> m_icons;
     std::unique_ptr<SandboxProcesses> m_processes;
+    std::unique_ptr<SandboxPackageCatalogue> m_packages;
 };
 
 } // namespace platform

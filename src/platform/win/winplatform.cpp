@@ -5,6 +5,7 @@
 #include "winfilesystem.h"
 #include "winiconextractor.h"
 #include "winlauncher.h"
+#include "winpackagecatalogue.h"
 #include "winprocesses.h"
 #include "winregistry.h"
 #include "winwindowframe.h"
@@ -20,6 +21,7 @@ WinPlatform::WinPlatform()
     , m_launcher(std::make_unique<WinLauncher>())
     , m_icons(std::make_unique<WinIconExtractor>())
     , m_processes(std::make_unique<WinProcesses>())
+    , m_packages(std::make_unique<WinPackageCatalogue>())
 {
 }
 
@@ -56,6 +58,10 @@ IconExtractor& WinPlatform::icons()
 Processes& WinPlatform::processes()
 {
     return *m_processes;
+}
+PackageCatalogue& WinPlatform::packages()
+{
+    return *m_packages;
 }
 
 } // namespace platform

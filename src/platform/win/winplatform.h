@@ -14,6 +14,7 @@ class WinFileSystem;
 class WinLauncher;
 class WinIconExtractor;
 class WinProcesses;
+class WinPackageCatalogue;
 
 // The real machine, through Win32.
 class WinPlatform final : public Platform {
@@ -29,6 +30,7 @@ public:
     Launcher& launcher() override;
     IconExtractor& icons() override;
     Processes& processes() override;
+    PackageCatalogue& packages() override;
     std::wstring sandboxRoot() const override { return std::wstring(); }
 
 private:
@@ -40,6 +42,7 @@ private:
     std::unique_ptr<WinLauncher> m_launcher;
     std::unique_ptr<WinIconExtractor> m_icons;
     std::unique_ptr<WinProcesses> m_processes;
+    std::unique_ptr<WinPackageCatalogue> m_packages;
 };
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #include "contract.h"
 
+#include "platform/win/winpackagecatalogue.h"
 #include "platform/win/winregistry.h"
 
 #include <windows.h>
@@ -14,6 +15,11 @@ std::unique_ptr<platform::Registry> makeContractRegistry()
 bool valuesComeInCreationOrder()
 {
     return !::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version");
+}
+
+std::unique_ptr<platform::PackageCatalogue> makeContractCatalogue()
+{
+    return std::make_unique<platform::WinPackageCatalogue>();
 }
 
 } // namespace contract

@@ -1,6 +1,12 @@
-// A real Windows Installer package: installed by msiexec, read back the way the inventory reads
-// it, and removed with the command line the inventory builds for it.
+// A real Windows Installer package: installed by msiexec, read back by the inventory's reader, and
+// removed with the command the uninstall page prepares for it, started by the same launcher.
+// The history that follows a success is Qt code and is checked by the native lane's uninstall
+// test, which plays this very entry (uninstall_sample.h).
 
+#include "uninstall_sample.h"
+
+#include "platform/strings.h"
+#include "platform/uninstallcommandline.h"
 #include "platform/uninstallentries.h"
 #include "platform/win/winlauncher.h"
 #include "platform/win/winregistry.h"
@@ -9,18 +15,18 @@
 
 namespace {
 
-platform::ShellExecuteResult msiexec(const std::wstring& parameters)
-{
-    return platform::WinLauncher().shellExecuteAndWait(
-        { L"open", L"msiexec.exe", parameters, L"", platform::ShowNormal, {} }, 120000);
-}
-
 std::optional<platform::UninstallEntry> sample(platform::Registry& registry)
 {
     for (auto& e : platform::readUninstallEntries(registry))
-        if (e.keyPath.find(L"\\{5F0C1E2A-8B7D-4C3E-9A61-2D4B8E7F1A90}") != std::wstring::npos)
+        if (e.keyPath == sample_msi::KeyPath)
             return e;
     return std::nullopt;
+}
+
+platform::ShellExecuteResult run(const platform::UninstallCommandLine& command)
+{
+    return platform::WinLauncher().shellExecuteAndWait(
+        { L"open", command.program, command.parameters(), L"", platform::ShowNormal, {} }, 120000);
 }
 
 TEST(UninstallMsi, InstalledPackageIsReadAndRemoved)
@@ -29,18 +35,23 @@ TEST(UninstallMsi, InstalledPackageIsReadAndRemoved)
     GTEST_SKIP() << "wixl is not installed, so there is no sample package";
 #else
     const std::string msi = NORVALE_SAMPLE_MSI;
-    const auto install = msiexec(L"/i \"" + std::wstring(msi.begin(), msi.end()) + L"\" /qn");
-    ASSERT_EQ(std::tuple(install.started, install.exitCode), std::tuple(true, 0u)) << install.error;
+    const platform::UninstallCommandLine install { L"msiexec.exe",
+        { L"/i", L"\"" + std::wstring(msi.begin(), msi.end()) + L"\"", L"/qn" } };
+    const auto installed = run(install);
+    ASSERT_EQ(std::tuple(installed.started, installed.exitCode), std::tuple(true, 0u)) << installed.error;
     platform::WinRegistry registry;
     const auto entry = sample(registry);
     ASSERT_TRUE(entry);
     EXPECT_EQ((std::vector<std::wstring> { entry->displayName, entry->publisher, entry->displayVersion,
-                  entry->uninstallString, std::to_wstring(entry->installDate.size()) }),
-        (std::vector<std::wstring> { L"Norvale Sample Viewer", L"Brightfen Test", L"1.2.3",
-            L"MsiExec.exe /I{5F0C1E2A-8B7D-4C3E-9A61-2D4B8E7F1A90}", L"8" }));
+                  entry->uninstallString, entry->installLocation, std::to_wstring(entry->installDate.size()) }),
+        (std::vector<std::wstring> { sample_msi::DisplayName, sample_msi::Publisher, sample_msi::DisplayVersion,
+            sample_msi::UninstallString, L"", L"8" }));
 
-    // What the inventory runs for it: the product switch kept, the silent switches added.
-    const auto removal = msiexec(L"/X{5F0C1E2A-8B7D-4C3E-9A61-2D4B8E7F1A90} /quiet /norestart");
+    const platform::PreparedUninstall prepared
+        = platform::prepareUninstall(entry->uninstallString, entry->publisher, entry->displayName);
+    ASSERT_TRUE(prepared.command) << platform::toUtf8(prepared.refusal);
+    EXPECT_EQ(prepared.command->parameters(), sample_msi::PreparedParameters);
+    const auto removal = run(*prepared.command);
     ASSERT_TRUE(removal.started) << removal.error;
     EXPECT_EQ(std::tuple(removal.waitResult, removal.exitCode), std::tuple(platform::WaitObject0, 0u));
     EXPECT_FALSE(sample(registry));

@@ -1,0 +1,239 @@
+#include "winapps/processrunner.h"
+#include "winapps/winappremover.h"
+
+#include <QTest>
+
+namespace {
+
+// Plays back recorded outcomes by step and records every run.
+class RecordedRunner final : public ProcessRunner {
+public:
+    struct Call {
+        QString program;
+        QStringList arguments;
+        int timeoutMs;
+    };
+    QMap<QString, ProcessOutcome> outcomes; // by step; a missing step exits 0 with no output
+    QList<Call> calls;
+
+    static QString stepOf(const QString& program, const QStringList& arguments)
+    {
+        if (program == QLatin1String("winget"))
+            return QStringLiteral("winget");
+        const QString command = arguments.value(3);
+        if (command.startsWith(QLatin1String("Remove-AppxPackage -AllUsers")))
+            return QStringLiteral("allUsers");
+        if (command.startsWith(QLatin1String("Remove-AppxPackage")))
+            return QStringLiteral("user");
+        if (command.startsWith(QLatin1String("Get-AppxProvisionedPackage")))
+            return QStringLiteral("provisioned");
+        return QStringLiteral("verify");
+    }
+
+    ProcessOutcome run(const QString& program, const QStringList& arguments, int timeoutMs) override
+    {
+        calls.append({ program, arguments, timeoutMs });
+        ProcessOutcome fallback;
+        fallback.exitCode = 0;
+        return outcomes.value(stepOf(program, arguments), fallback);
+    }
+
+    QString steps() const
+    {
+        QStringList out;
+        for (const Call& c : calls)
+            out << stepOf(c.program, c.arguments);
+        return out.join(' ');
+    }
+};
+
+ProcessOutcome outcome(int code, const QByteArray& out = {}, const QByteArray& err = {})
+{
+    return { code, out, err };
+}
+
+WinApp notes(const QString& wingetId = QStringLiteral("Contoso.Notes_abc"))
+{
+    WinApp app;
+    app.displayName = QStringLiteral("Notes");
+    app.name = QStringLiteral("Contoso.Notes");
+    app.fullName = QStringLiteral("Contoso.Notes_1.0.0.0_x64__abc");
+    app.wingetId = wingetId;
+    return app;
+}
+
+const QString NeedsAdmin = QStringLiteral("移除失败（可能需要管理员权限）");
+const QString Protected = QStringLiteral("系统保护应用，已移除当前用户注册，但系统级组件可能在重启后自动恢复。\n"
+                                         "若需彻底删除，请以管理员身份运行本程序。");
+
+} // namespace
+
+using Outcomes = QMap<QString, ProcessOutcome>;
+Q_DECLARE_METATYPE(Outcomes)
+
+class tst_WinAppRemover : public QObject {
+    Q_OBJECT
+
+private slots:
+    void outcomes_data();
+    void outcomes();
+    void commandTextsAndTimeouts();
+    void quoting_data();
+    void quoting();
+    void progressForEachAppInOrder();
+};
+
+void tst_WinAppRemover::outcomes_data()
+{
+    QTest::addColumn<Outcomes>("recorded");
+    QTest::addColumn<QString>("wingetId");
+    QTest::addColumn<bool>("success");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("steps");
+
+    QTest::newRow("removed for the user and gone")
+        << Outcomes { { "user", outcome(0, {}, "warning text") }, { "verify", outcome(0, "\r\n") } }
+        << "Contoso.Notes_abc" << true << ""
+        << "user verify";
+    QTest::newRow("failed with standard error: the all-users error replaces it")
+        << Outcomes { { "user", outcome(1, {}, "E_USER") }, { "allUsers", outcome(1, {}, "  E_ALL \n") },
+               { "winget", outcome(5) }, { "verify", outcome(0, "Contoso.Notes_1.0.0.0_x64__abc") } }
+        << "Contoso.Notes_abc" << false << "E_ALL"
+        << "user allUsers provisioned winget verify";
+    QTest::newRow("an empty all-users error keeps the first")
+        << Outcomes { { "user", outcome(1, {}, "E_USER") }, { "allUsers", outcome(1) }, { "verify", outcome(0, "X") } }
+        << "" << false << "E_USER"
+        << "user allUsers provisioned verify";
+    QTest::newRow("failed without standard error")
+        << Outcomes { { "user", outcome(1) }, { "allUsers", outcome(1) }, { "verify", outcome(0, "X") } } << "" << false
+        << NeedsAdmin << "user allUsers provisioned verify";
+    QTest::newRow("removed but still registered for another user")
+        << Outcomes { { "verify", outcome(0, "Contoso.Notes_1.0.0.0_x64__abc") } } << "Contoso.Notes_abc" << false
+        << Protected << "user verify";
+    QTest::newRow("all-users removal decides; the provisioned step still runs")
+        << Outcomes { { "user", outcome(1, {}, "E") }, { "provisioned", outcome(1, {}, "P") },
+               { "verify", outcome(0) } }
+        << "Contoso.Notes_abc" << true << ""
+        << "user allUsers provisioned verify";
+    QTest::newRow("winget fallback succeeds")
+        << Outcomes { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1, {}, "E") }, { "verify", outcome(0) } }
+        << "Contoso.Notes_abc" << true << ""
+        << "user allUsers provisioned winget verify";
+    QTest::newRow("no winget identifier, no fallback")
+        << Outcomes { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1) }, { "verify", outcome(0, "X") } } << ""
+        << false << "E"
+        << "user allUsers provisioned verify";
+    QTest::newRow("gone for every user although the steps failed")
+        << Outcomes { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1, {}, "E") }, { "verify", outcome(0) } }
+        << "" << true << ""
+        << "user allUsers provisioned verify";
+    QTest::newRow("a check that could not run proves nothing") << Outcomes {
+        { "user", outcome(-1) }, { "allUsers", outcome(-1) }, { "winget", outcome(-1) }, { "verify", outcome(-1) }
+    } << "Contoso.Notes_abc" << false << NeedsAdmin << "user allUsers provisioned winget verify";
+    QTest::newRow("a refused check keeps a successful removal")
+        << Outcomes { { "verify", outcome(1, {}, "Access is denied.") } } << "" << true << ""
+        << "user verify";
+}
+
+void tst_WinAppRemover::outcomes()
+{
+    QFETCH(Outcomes, recorded);
+    QFETCH(QString, wingetId);
+    QFETCH(bool, success);
+    QFETCH(QString, message);
+    QFETCH(QString, steps);
+
+    RecordedRunner runner;
+    runner.outcomes = recorded;
+    if (steps.contains(QLatin1String("winget"))) {
+        QTest::ignoreMessage(QtDebugMsg,
+            qPrintable(QStringLiteral("[WinApps] winget fallback exit: %1 for %2")
+                           .arg(recorded.value("winget", outcome(0)).exitCode)
+                           .arg(wingetId)));
+    }
+    const RemoveResult result = WinAppRemover(runner).remove(notes(wingetId));
+    QCOMPARE(runner.steps(), steps);
+    QCOMPARE(result.displayName, QStringLiteral("Notes"));
+    QCOMPARE(result.success, success);
+    QCOMPARE(result.message, message);
+}
+
+void tst_WinAppRemover::commandTextsAndTimeouts()
+{
+    RecordedRunner runner;
+    runner.outcomes = { { "user", outcome(1) }, { "allUsers", outcome(1) }, { "winget", outcome(1) } };
+    QTest::ignoreMessage(QtDebugMsg, "[WinApps] winget fallback exit: 1 for Contoso.Notes_abc");
+    WinAppRemover(runner).remove(notes());
+    QCOMPARE(runner.calls.size(), 5);
+
+    const QStringList shell { "-NoProfile", "-NonInteractive", "-Command" };
+    const QString commands[] = {
+        "Remove-AppxPackage -Package 'Contoso.Notes_1.0.0.0_x64__abc'",
+        "Remove-AppxPackage -AllUsers -Package 'Contoso.Notes_1.0.0.0_x64__abc'",
+        "Get-AppxProvisionedPackage -Online | Where-Object { $_.DisplayName -like '*Contoso.Notes*' } | ForEach-Object "
+        "{"
+        "     Remove-AppxProvisionedPackage -Online     -PackageName $_.PackageName -AllUsers   }",
+        QString(),
+        "(Get-AppxPackage -Name 'Contoso.Notes' -AllUsers).PackageFullName",
+    };
+    const int timeouts[] = { 60000, 60000, 90000, 120000, 20000 };
+    for (int i = 0; i < 5; ++i) {
+        const auto& call = runner.calls.at(i);
+        QCOMPARE(call.timeoutMs, timeouts[i]);
+        if (i == 3) {
+            QCOMPARE(call.program, QStringLiteral("winget"));
+            QCOMPARE(call.arguments,
+                (QStringList {
+                    "uninstall", "--id", "Contoso.Notes_abc", "--silent", "--accept-source-agreements", "--force" }));
+        } else {
+            QCOMPARE(call.program, QStringLiteral("powershell.exe"));
+            QCOMPARE(call.arguments, shell + QStringList { commands[i] });
+        }
+    }
+}
+
+void tst_WinAppRemover::quoting_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("quoted");
+    QTest::newRow("plain") << "Contoso.Notes_1.0.0.0_x64__abc"
+                           << "Contoso.Notes_1.0.0.0_x64__abc";
+    QTest::newRow("a quote that would end the string") << "x'; Remove-Item C:\\ -Recurse; '"
+                                                       << "x''; Remove-Item C:\\ -Recurse; ''";
+    QTest::newRow("quotes in a row") << "''"
+                                     << "''''";
+    QTest::newRow("typographic quotes end PowerShell strings too") << QString::fromUtf8(
+        "a\u2018b\u2019c\u201Ad\u201Be") << QString::fromUtf8("a\u2018\u2018b\u2019\u2019c\u201A\u201Ad\u201B\u201Be");
+}
+
+void tst_WinAppRemover::quoting()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, quoted);
+    QCOMPARE(WinAppRemover::quoted(text), quoted);
+
+    // And the command a quoted name ends up in.
+    RecordedRunner runner;
+    WinApp app = notes();
+    app.fullName = text;
+    WinAppRemover(runner).remove(app);
+    QCOMPARE(runner.calls.first().arguments.last(), QStringLiteral("Remove-AppxPackage -Package '%1'").arg(quoted));
+}
+
+void tst_WinAppRemover::progressForEachAppInOrder()
+{
+    RecordedRunner runner;
+    WinApp second = notes();
+    second.displayName = QStringLiteral("Paint");
+    QStringList seen;
+    const QList<RemoveResult> results
+        = WinAppRemover(runner).removeAll({ notes(), second }, [&](const WinApp& app, int position, int count) {
+              seen << QStringLiteral("%1 %2/%3").arg(app.displayName).arg(position).arg(count);
+          });
+    QCOMPARE(seen, (QStringList { "Notes 1/2", "Paint 2/2" }));
+    QCOMPARE(results.size(), 2);
+    QCOMPARE(results[1].displayName, QStringLiteral("Paint"));
+}
+
+QTEST_GUILESS_MAIN(tst_WinAppRemover)
+#include "tst_winappremover.moc"

@@ -1,0 +1,386 @@
+#include "fakecatalogue.h"
+
+#include "winapps/winappscanner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using platform::PackageRecord;
+using platform::PackageSignature;
+
+namespace {
+
+PackageRecord package(const QString& name, const QString& location = QString())
+{
+    PackageRecord p;
+    p.name = name.toStdWString();
+    p.fullName = (name + QStringLiteral("_1.0.0.0_x64__pid")).toStdWString();
+    p.familyName = (name + QStringLiteral("_pid")).toStdWString();
+    p.publisherId = L"pid";
+    p.version = { 1, 20, 300, 4000 };
+    p.installLocation = location.toStdWString();
+    p.signature = PackageSignature::Store;
+    return p;
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray manifest(const QByteArray& displayName, const QByteArray& publisher = "Contoso",
+    const QByteArray& visualElements = QByteArray())
+{
+    return "<Package><Properties><DisplayName>" + displayName + "</DisplayName><PublisherDisplayName>" + publisher
+        + "</PublisherDisplayName></Properties><uap:VisualElements " + visualElements + "/></Package>";
+}
+
+} // namespace
+
+class tst_WinAppScanner : public QObject {
+    Q_OBJECT
+
+private slots:
+    void filters_data();
+    void filters();
+    void referenceForms_data();
+    void referenceForms();
+    void sizeText_data();
+    void sizeText();
+    void names_data();
+    void names();
+    void logo_data();
+    void logo();
+    void folderFacts();
+    void progressSortAndFields();
+    void runtimeFailureStillDeliversWhatWasFound();
+
+private:
+    // Scans the fake catalogue and returns what scanDone delivered.
+    QList<WinApp> scan(QList<int>* progress = nullptr)
+    {
+        WinAppScanner scanner;
+        QSignalSpy done(&scanner, &WinAppScanner::scanDone);
+        QSignalSpy steps(&scanner, &WinAppScanner::scanProgress);
+        scanner.start();
+        if (!done.wait(10000))
+            return {};
+        scanner.wait();
+        if (progress) {
+            for (const auto& args : steps)
+                progress->append(args.at(0).toInt());
+        }
+        return done.constFirst().at(0).value<QList<WinApp>>();
+    }
+};
+
+void tst_WinAppScanner::filters_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<bool>("hidden");
+
+    QTest::newRow("an ordinary store app is listed") << "Contoso.Notes"
+                                                     << "" << false;
+    QTest::newRow("framework") << "Contoso.Runtime"
+                               << "framework" << true;
+    QTest::newRow("resource package") << "Contoso.Notes"
+                                      << "resource" << true;
+    QTest::newRow("framework Edge gets no exception") << "Microsoft.MicrosoftEdge.Stable"
+                                                      << "framework" << true;
+    QTest::newRow("system-signed") << "Microsoft.Windows.Photos"
+                                   << "system" << true;
+    QTest::newRow("system-signed Edge is listed") << "Microsoft.MicrosoftEdge.Stable"
+                                                  << "system" << false;
+    QTest::newRow("bundle") << "Contoso.Suite"
+                            << "bundle" << true;
+    QTest::newRow("bundled Edge is listed") << "Microsoft.MicrosoftEdgeDevToolsClient"
+                                            << "bundle" << false;
+    QTest::newRow("language pack by prefix") << "Microsoft.LanguageExperiencePackde-DE"
+                                             << "" << true;
+    QTest::newRow("prefix in another case") << "microsoft.vclibs.140.00"
+                                            << "" << true;
+    QTest::newRow("last prefix") << "Microsoft.Winget.Source"
+                                 << "" << true;
+    QTest::newRow("prefix text later in the name is no prefix") << "Contoso.Microsoft.VCLibs"
+                                                                << "" << false;
+    QTest::newRow("codec by substring") << "Contoso.MPEG-2Tools"
+                                        << "" << true;
+    QTest::newRow("substring in another case") << "Fabrikam.heifimageextension"
+                                               << "" << true;
+}
+
+void tst_WinAppScanner::filters()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, kind);
+    QFETCH(bool, hidden);
+    PackageRecord p = package(name);
+    p.isFramework = kind == QLatin1String("framework");
+    p.isResourcePackage = kind == QLatin1String("resource");
+    p.isBundle = kind == QLatin1String("bundle");
+    if (kind == QLatin1String("system"))
+        p.signature = PackageSignature::System;
+    QCOMPARE(WinAppScanner::isHidden(p), hidden);
+}
+
+void tst_WinAppScanner::referenceForms_data()
+{
+    QTest::addColumn<QString>("reference");
+    QTest::addColumn<QString>("expanded");
+    QTest::newRow("three slashes: the package is the authority") << "ms-resource:///Resources/AppName"
+                                                                 << "ms-resource://Contoso.Notes/Resources/AppName";
+    QTest::newRow("two slashes and a bare key: the Resources map") << "ms-resource://AppName"
+                                                                   << "ms-resource://Contoso.Notes/Resources/AppName";
+    QTest::newRow("two slashes with a path stays") << "ms-resource://Other.Package/Strings/AppName"
+                                                   << "ms-resource://Other.Package/Strings/AppName";
+    QTest::newRow("no slashes stays") << "ms-resource:AppName"
+                                      << "ms-resource:AppName";
+}
+
+void tst_WinAppScanner::referenceForms()
+{
+    QFETCH(QString, reference);
+    QFETCH(QString, expanded);
+    QCOMPARE(WinAppScanner::expandReference(reference, QStringLiteral("Contoso.Notes")), expanded);
+}
+
+void tst_WinAppScanner::sizeText_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("text");
+    const qint64 KiB = 1024, MiB = KiB * KiB, GiB = MiB * KiB;
+    QTest::newRow("zero is no text") << qint64(0) << "";
+    QTest::newRow("last byte count") << KiB - 1 << "1023 B";
+    QTest::newRow("first KB") << KiB << "1 KB";
+    QTest::newRow("half KB rounds up") << KiB + KiB / 2 << "2 KB";
+    QTest::newRow("last KB count") << MiB - 1 << "1024 KB";
+    QTest::newRow("first MB") << MiB << "1 MB";
+    QTest::newRow("two and a half MB round away from zero") << 5 * MiB / 2 << "3 MB";
+    QTest::newRow("last MB count") << GiB - 1 << "1024 MB";
+    QTest::newRow("first GB with two decimals") << GiB << "1.00 GB";
+}
+
+void tst_WinAppScanner::sizeText()
+{
+    QFETCH(qint64, bytes);
+    QFETCH(QString, text);
+    QCOMPARE(WinAppScanner::formatSize(bytes), text);
+}
+
+void tst_WinAppScanner::names_data()
+{
+    QTest::addColumn<QByteArray>("manifestText"); // empty: no manifest
+    QTest::addColumn<bool>("bundleManifest");
+    QTest::addColumn<QString>("runtimeName");
+    QTest::addColumn<QString>("runtimePublisher");
+    QTest::addColumn<QString>("displayName");
+    QTest::addColumn<QString>("publisher");
+
+    QTest::newRow("plain manifest names win") << manifest("  Notes  ", "Contoso Ltd") << false << "Runtime Notes"
+                                              << "Runtime Co"
+                                              << "Notes"
+                                              << "Contoso Ltd";
+    QTest::newRow("resolvable reference") << manifest("ms-resource:AppName", "ms-resource://Publisher") << false << ""
+                                          << ""
+                                          << "Resolved Notes"
+                                          << "Resolved Contoso";
+    QTest::newRow("unresolvable reference falls to the runtime's name")
+        << manifest("ms-resource:Missing") << false << "Runtime Notes"
+        << ""
+        << "Runtime Notes"
+        << "Contoso";
+    QTest::newRow("unresolvable everywhere leaves the package name")
+        << manifest("ms-resource:Missing", "ms-resource:Missing") << false << "ms-resource:AlsoMissing"
+        << "ms-resource:Missing"
+        << "Contoso.Notes"
+        << "";
+    QTest::newRow("a resolved text that is itself a reference is not used")
+        << manifest("ms-resource:Loop") << false << ""
+        << ""
+        << "Contoso.Notes"
+        << "Contoso";
+    QTest::newRow("no manifest: the runtime's texts") << QByteArray() << false << "Runtime Notes"
+                                                      << "Runtime Co"
+                                                      << "Runtime Notes"
+                                                      << "Runtime Co";
+    QTest::newRow("bundle manifest when the package has none") << manifest("Bundle Notes") << true << "Runtime Notes"
+                                                               << ""
+                                                               << "Bundle Notes"
+                                                               << "Contoso";
+    QTest::newRow("unbalanced tags") << QByteArray("<DisplayName>Notes<PublisherDisplayName>Contoso</Package>") << false
+                                     << "Runtime Notes"
+                                     << ""
+                                     << "Runtime Notes"
+                                     << "";
+    QTest::newRow("not UTF-8 does not stop the scan")
+        << manifest("Caf\xe9 \xff\xfe") << false << ""
+        << "" << QString::fromUtf8("Caf\xef\xbf\xbd \xef\xbf\xbd\xef\xbf\xbd") << "Contoso";
+    QTest::newRow("huge manifest: the values near the top are still read")
+        << (manifest("Big Notes") + QByteArray(6 * 1024 * 1024, ' ')) << false << ""
+        << ""
+        << "Big Notes"
+        << "Contoso";
+}
+
+void tst_WinAppScanner::names()
+{
+    QFETCH(QByteArray, manifestText);
+    QFETCH(bool, bundleManifest);
+    QFETCH(QString, runtimeName);
+    QFETCH(QString, runtimePublisher);
+    QFETCH(QString, displayName);
+    QFETCH(QString, publisher);
+
+    QTemporaryDir dir;
+    const QString folder = dir.path() + QStringLiteral("/Contoso.Notes");
+    QDir().mkpath(folder);
+    if (!manifestText.isEmpty())
+        writeFile(
+            folder + (bundleManifest ? "/AppxMetadata/AppxBundleManifest.xml" : "/AppxManifest.xml"), manifestText);
+
+    FakeCatalogue catalogue;
+    PackageRecord p = package(QStringLiteral("Contoso.Notes"), folder);
+    p.displayName = runtimeName.toStdWString();
+    p.publisherDisplayName = runtimePublisher.toStdWString();
+    catalogue.packages_ = { p };
+    const std::wstring full = p.fullName;
+    catalogue.strings[L"@{" + full + L"?ms-resource:AppName}"] = L"Resolved Notes";
+    catalogue.strings[L"@{" + full + L"?ms-resource://Contoso.Notes/Resources/Publisher}"] = L"Resolved Contoso";
+    catalogue.strings[L"@{" + full + L"?ms-resource:Loop}"] = L"ms-resource:Loop";
+
+    const QList<WinApp> apps = scan();
+    QCOMPARE(apps.size(), 1);
+    QCOMPARE(apps[0].displayName, displayName);
+    QCOMPARE(apps[0].publisher, publisher);
+}
+
+void tst_WinAppScanner::logo_data()
+{
+    QTest::addColumn<QByteArray>("attributes");
+    QTest::addColumn<QStringList>("files"); // relative to the install folder; "../" leaves it
+    QTest::addColumn<QString>("expected"); // relative; empty: none
+
+    QTest::newRow("the plain file") << QByteArray(R"(Square44x44Logo="Assets\Logo.png")")
+                                    << QStringList { "Assets/Logo.png", "Assets/Logo.scale-100.png" }
+                                    << "Assets/Logo.png";
+    QTest::newRow("scale-200 when the plain file is missing")
+        << QByteArray(R"(Square44x44Logo="Assets\Logo.png")") << QStringList { "Assets/Logo.scale-200.png" }
+        << "Assets/Logo.scale-200.png";
+    QTest::newRow("scale-100 before scale-200")
+        << QByteArray(R"(Square44x44Logo="Assets\Logo.png")")
+        << QStringList { "Assets/Logo.scale-200.png", "Assets/Logo.scale-100.png" } << "Assets/Logo.scale-100.png";
+    QTest::newRow("scale-200 before scale-125")
+        << QByteArray(R"(Square44x44Logo="Assets\Logo.png")")
+        << QStringList { "Assets/Logo.scale-125.png", "Assets/Logo.scale-200.png" } << "Assets/Logo.scale-200.png";
+    QTest::newRow("scale-400 last") << QByteArray(R"(Square44x44Logo="Assets\Logo.png")")
+                                    << QStringList { "Assets/Logo.scale-400.png" } << "Assets/Logo.scale-400.png";
+    QTest::newRow("a missing 44 falls to 30 then 150")
+        << QByteArray(R"(Square150x150Logo="Big.png" Square44x44Logo="Gone.png" Square30x30Logo="Small.png")")
+        << QStringList { "Big.png", "Small.scale-150.png" } << "Small.scale-150.png";
+    QTest::newRow("climbing out of the install folder is refused")
+        << QByteArray(R"(Square44x44Logo="..\Outside.png" Square150x150Logo="Assets\..\..\Outside.png")")
+        << QStringList { "../Outside.png" } << "";
+    QTest::newRow("an absolute path is refused")
+        << QByteArray(R"(Square44x44Logo="C:\Windows\Logo.png")") << QStringList {} << "";
+}
+
+void tst_WinAppScanner::logo()
+{
+    QFETCH(QByteArray, attributes);
+    QFETCH(QStringList, files);
+    QFETCH(QString, expected);
+
+    QTemporaryDir dir;
+    const QString folder = dir.path() + QStringLiteral("/app");
+    writeFile(folder + "/AppxManifest.xml", manifest("Notes", "Contoso", attributes));
+    for (const QString& f : files)
+        writeFile(folder + '/' + f, "png");
+
+    FakeCatalogue catalogue;
+    catalogue.packages_ = { package(QStringLiteral("Contoso.Notes"), folder) };
+    const QList<WinApp> apps = scan();
+    QCOMPARE(apps.size(), 1);
+    QCOMPARE(apps[0].logoPath, expected.isEmpty() ? QString() : folder + '/' + expected);
+}
+
+void tst_WinAppScanner::folderFacts()
+{
+    QTemporaryDir dir;
+    const QString empty = dir.path() + QStringLiteral("/empty");
+    const QString full = dir.path() + QStringLiteral("/full");
+    QDir().mkpath(empty);
+    writeFile(full + "/a.bin", QByteArray(1000, 'a'));
+    writeFile(full + "/sub/b.bin", QByteArray(1048, 'b'));
+    writeFile(full + "/.hidden", QByteArray(5000, 'h')); // hidden files are not counted
+    QVERIFY(QFile::link(full + "/a.bin", full + "/sub/link.bin")); // nor links
+
+    FakeCatalogue catalogue;
+    catalogue.packages_
+        = { package("A.Empty", empty), package("B.Full", full), package("C.Missing", dir.path() + "/nothing") };
+    const QList<WinApp> apps = scan();
+    QCOMPARE(apps.size(), 3);
+    const QString today = QDate::currentDate().toString(QStringLiteral("yyyy/M/d"));
+    QCOMPARE(apps[0].installDate, today);
+    QCOMPARE(apps[0].sizeText, QString());
+    QCOMPARE(apps[1].installDate, today);
+    QCOMPARE(apps[1].sizeText, QStringLiteral("2 KB"));
+    QCOMPARE(apps[2].installDate, QString());
+    QCOMPARE(apps[2].sizeText, QString());
+}
+
+void tst_WinAppScanner::progressSortAndFields()
+{
+    FakeCatalogue catalogue;
+    // 12 listed apps among hidden ones and one without a full name, in no useful order.
+    const char* const names[] = { "b.App", "Microsoft.VCLibs.x", "a.App", "C.App", "L.App", "k.App", "J.App", "i.App",
+        "Contoso.MPEG-2Tools", "H.App", "g.App", "F.App", "e.App", "d.App" };
+    for (const char* name : names)
+        catalogue.packages_.push_back(package(QString::fromLatin1(name)));
+    PackageRecord nameless = package(QStringLiteral("Z.NoFullName"));
+    nameless.fullName.clear();
+    catalogue.packages_.insert(catalogue.packages_.begin() + 5, nameless);
+
+    QList<int> progress;
+    const QList<WinApp> apps = scan(&progress);
+    QCOMPARE(progress, (QList<int> { 5, 10 }));
+    QStringList order;
+    for (const WinApp& app : apps)
+        order << app.displayName;
+    QCOMPARE(
+        order.join(' '), QStringLiteral("a.App b.App C.App d.App e.App F.App g.App H.App i.App J.App k.App L.App"));
+
+    const WinApp& a = apps.first();
+    QCOMPARE(a.name, QStringLiteral("a.App"));
+    QCOMPARE(a.fullName, QStringLiteral("a.App_1.0.0.0_x64__pid"));
+    QCOMPARE(a.version, QStringLiteral("1.20.300.4000"));
+    QCOMPARE(a.publisherId, QStringLiteral("pid"));
+    QCOMPARE(a.wingetId, QStringLiteral("a.App_pid"));
+}
+
+void tst_WinAppScanner::runtimeFailureStillDeliversWhatWasFound()
+{
+    FakeCatalogue catalogue;
+    catalogue.packages_ = { package("Z.Late"), package("A.Early"), package("M.Never") };
+    catalogue.failAfter = 2;
+    QTest::ignoreMessage(QtWarningMsg, "WinAppScanner: WinRT init failed");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("get_Current 0x80004005")));
+    const QList<WinApp> apps = scan();
+    QCOMPARE(apps.size(), 2);
+    QCOMPARE(apps[0].name, QStringLiteral("A.Early"));
+
+    // Nothing at all when the runtime is missing from the start.
+    catalogue.failAfter = 0;
+    QTest::ignoreMessage(QtWarningMsg, "WinAppScanner: WinRT init failed");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("0 apps kept")));
+    QVERIFY(scan().isEmpty());
+}
+
+QTEST_MAIN(tst_WinAppScanner)
+#include "tst_winappscanner.moc"
