@@ -106,6 +106,7 @@ public:
     platform::Launcher& launcher() override { return m_sandbox.launcher(); }
     platform::IconExtractor& icons() override { return m_sandbox.icons(); }
     platform::Processes& processes() override { return *this; }
+    platform::PackageCatalogue& packages() override { return m_sandbox.packages(); }
     std::wstring sandboxRoot() const override { return m_sandbox.sandboxRoot(); }
 
 private:

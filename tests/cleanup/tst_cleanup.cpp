@@ -98,6 +98,7 @@ public:
         --m_emptying;
         return result;
     }
+    platform::RemoveTreeResult removeTree(const std::wstring& path) override { return m_inner.removeTree(path); }
 
     void hold(bool on)
     {
