@@ -110,6 +110,17 @@ private slots:
         QCOMPARE(m.read(file), text);
     }
 
+    // Far beyond any real profile file, though well formed: not read, so neither trusted nor rewritten.
+    void aFileBeyondTheSizeLimitIsLeftAlone()
+    {
+        ExtMachine m;
+        const QString file = m.local("Preferences");
+        const QByteArray text = preferences("{}", "[]") + QByteArray(65 * 1024 * 1024, ' ');
+        QVERIFY(m.write(file, text));
+        QVERIFY(!BrowserExtRemover::patchPreferences(file, Id));
+        QCOMPARE(QFileInfo(file).size(), text.size());
+    }
+
     void removesFromChromeProfiles()
     {
         ExtMachine m;
