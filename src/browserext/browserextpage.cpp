@@ -63,11 +63,6 @@ ExtensionPage extensionPageFor(const QString& browser, const QString& localAppDa
         QStringLiteral("https://support.mozilla.org/kb/disable-or-remove-add-ons") };
 }
 
-QPushButton* addButton(QMessageBox& box, const QString& text, QMessageBox::ButtonRole role)
-{
-    return box.addButton(text, role);
-}
-
 } // namespace
 
 BrowserExtPage::BrowserExtPage(QWidget* parent)
@@ -418,9 +413,9 @@ bool BrowserExtPage::ensureBrowsersClosed(const QStringList& browsers, bool batc
             box.setInformativeText(
                 tr("关闭浏览器窗口后，后台进程可能仍然存在，请点击「强制结束」自动终止，或手动关闭后点「重试」。"));
         }
-        QPushButton* force = addButton(box, tr("强制结束并移除"), QMessageBox::AcceptRole);
-        QPushButton* retry = addButton(box, tr("重试"), QMessageBox::ActionRole);
-        QPushButton* cancel = addButton(box, tr("取消"), QMessageBox::RejectRole);
+        QPushButton* force = box.addButton(tr("强制结束并移除"), QMessageBox::AcceptRole);
+        QPushButton* retry = box.addButton(tr("重试"), QMessageBox::ActionRole);
+        QPushButton* cancel = box.addButton(tr("取消"), QMessageBox::RejectRole);
         box.setDefaultButton(retry);
         box.setEscapeButton(cancel);
         box.exec();
