@@ -26,7 +26,9 @@ public:
     std::wstring roamingAppData() const { return variable(L"APPDATA").value_or(std::wstring()); }
     std::wstring localAppData() const { return variable(L"LOCALAPPDATA").value_or(std::wstring()); }
     std::wstring programData() const { return variable(L"ProgramData").value_or(std::wstring()); }
-    std::wstring temp() const { return variable(L"TEMP").value_or(std::wstring()); }
+    // The user's temporary folder, found as GetTempPath2W finds it: TMP, else TEMP, else the
+    // user's profile, else the Windows folder.
+    virtual std::wstring temp() const = 0;
 };
 
 } // namespace platform

@@ -46,7 +46,9 @@ public:
 
     // Deletes everything inside `folder` and keeps the folder itself. Sub-folders go with all
     // they hold; what cannot be deleted stays (with the folders that lead to it) and the rest
-    // goes on. A file's read-only attribute is left as it is, so on Windows such files stay.
+    // goes on. The folder's own files go as single deletes would take them, so a read-only one
+    // stays; inside its sub-folders, where whole trees are being removed, a read-only file is
+    // made writable and deleted. A link, wherever it is met, is deleted as itself.
     virtual EmptyFolderResult emptyFolder(const std::wstring& folder) = 0;
 
     // Deletes `path` itself: a folder with everything below it (as emptyFolder walks it), a file,

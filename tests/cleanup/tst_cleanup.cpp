@@ -2,7 +2,7 @@
 #include "cleanup/cleanuprowwidget.h"
 #include "cleanup/cleanupscanner.h"
 #include "platform/environment.h"
-#include "platform/platform.h"
+#include "platform/forwardingplatform.h"
 #include "platform/sandbox/sandboxplatform.h"
 
 #include <QDir>
@@ -123,24 +123,18 @@ private:
     bool m_held = false;
 };
 
-class GatedPlatform final : public platform::Platform {
+class GatedPlatform final : public platform::ForwardingPlatform {
 public:
     explicit GatedPlatform(platform::Platform& inner)
-        : m_inner(inner)
+        : ForwardingPlatform(inner)
+        , m_inner(inner)
         , files(inner.fileSystem())
     {
         platform::setCurrent(this);
     }
     ~GatedPlatform() override { platform::setCurrent(&m_inner); }
 
-    platform::Registry& registry() override { return m_inner.registry(); }
-    platform::Environment& environment() override { return m_inner.environment(); }
-    platform::WindowFrame& windowFrame() override { return m_inner.windowFrame(); }
-    platform::SystemCounters& counters() override { return m_inner.counters(); }
     platform::FileSystem& fileSystem() override { return files; }
-    platform::Launcher& launcher() override { return m_inner.launcher(); }
-    platform::IconExtractor& icons() override { return m_inner.icons(); }
-    std::wstring sandboxRoot() const override { return m_inner.sandboxRoot(); }
 
 private:
     platform::Platform& m_inner;

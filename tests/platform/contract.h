@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/environment.h"
 #include "platform/packagecatalogue.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
@@ -35,5 +36,12 @@ bool waitUntilEnded(std::uint32_t pid);
 // The lane's packaged-app catalogue: a sandbox without a catalogue file natively, the real
 // package manager under Wine; neither has the package runtime.
 std::unique_ptr<platform::PackageCatalogue> makeContractCatalogue();
+
+// The lane's environment: a sandbox's in a fresh folder natively, the process's own under Wine.
+std::unique_ptr<platform::Environment> makeContractEnvironment();
+
+// Sets or removes (nullopt) a variable of an environment made above.
+void setContractVariable(
+    platform::Environment& environment, const std::wstring& name, const std::optional<std::wstring>& value);
 
 } // namespace contract

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/environment.h"
+#include "platform/forwardingplatform.h"
 #include "platform/platform.h"
 #include "platform/sandbox/sandboxplatform.h"
 #include "platform/systemcounters.h"
@@ -9,9 +10,13 @@
 
 // A sandbox machine with chosen counters, current while it lives. Tests set the counters before the
 // scanner's worker starts, so they need no lock. Only the system drive has disk space.
-class FakePlatform final : public platform::Platform, public platform::SystemCounters {
+class FakePlatform final : public platform::ForwardingPlatform, public platform::SystemCounters {
 public:
-    FakePlatform() { platform::setCurrent(this); }
+    FakePlatform()
+        : ForwardingPlatform(m_sandbox)
+    {
+        platform::setCurrent(this);
+    }
     ~FakePlatform() override { platform::setCurrent(nullptr); }
 
     std::optional<platform::SystemTimes> times;
@@ -29,16 +34,7 @@ public:
     unsigned processorCount() const override { return processors; }
     std::uint64_t tickCount() const override { return ticks; }
 
-    platform::Registry& registry() override { return m_sandbox.registry(); }
-    platform::Environment& environment() override { return m_sandbox.environment(); }
-    platform::WindowFrame& windowFrame() override { return m_sandbox.windowFrame(); }
     platform::SystemCounters& counters() override { return *this; }
-    platform::FileSystem& fileSystem() override { return m_sandbox.fileSystem(); }
-    platform::Launcher& launcher() override { return m_sandbox.launcher(); }
-    platform::IconExtractor& icons() override { return m_sandbox.icons(); }
-    platform::Processes& processes() override { return m_sandbox.processes(); }
-    platform::PackageCatalogue& packages() override { return m_sandbox.packages(); }
-    std::wstring sandboxRoot() const override { return m_sandbox.sandboxRoot(); }
 
 private:
     QTemporaryDir m_dir;

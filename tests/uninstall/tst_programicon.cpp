@@ -1,8 +1,8 @@
 #include "uninstall/programicon.h"
 
 #include "platform/environment.h"
+#include "platform/forwardingplatform.h"
 #include "platform/iconextractor.h"
-#include "platform/platform.h"
 #include "platform/sandbox/sandboxplatform.h"
 
 #include <QDir>
@@ -30,24 +30,18 @@ private:
     platform::IconExtractor& m_inner;
 };
 
-class IconPlatform final : public platform::Platform {
+class IconPlatform final : public platform::ForwardingPlatform {
 public:
     explicit IconPlatform(const QString& root)
-        : m_sandbox(root.toStdWString())
+        : ForwardingPlatform(m_sandbox)
+        , m_sandbox(root.toStdWString())
         , icons_(m_sandbox.icons())
     {
         platform::setCurrent(this);
     }
     ~IconPlatform() override { platform::setCurrent(nullptr); }
 
-    platform::Registry& registry() override { return m_sandbox.registry(); }
-    platform::Environment& environment() override { return m_sandbox.environment(); }
-    platform::WindowFrame& windowFrame() override { return m_sandbox.windowFrame(); }
-    platform::SystemCounters& counters() override { return m_sandbox.counters(); }
-    platform::FileSystem& fileSystem() override { return m_sandbox.fileSystem(); }
-    platform::Launcher& launcher() override { return m_sandbox.launcher(); }
     platform::IconExtractor& icons() override { return icons_; }
-    std::wstring sandboxRoot() const override { return m_sandbox.sandboxRoot(); }
 
 private:
     platform::SandboxPlatform m_sandbox;

@@ -1,7 +1,7 @@
 #include <uninstall/uninstallmanager.h>
 
+#include <platform/forwardingplatform.h>
 #include <platform/launcher.h>
-#include <platform/platform.h>
 #include <platform/sandbox/sandboxplatform.h>
 #include <platform/uninstallentries.h>
 
@@ -43,10 +43,11 @@ void put(const QString& windowsPath, const QByteArray& content)
 // The sandbox machine, with every start through the shell written down. Windows Installer is
 // played as the real one behaves: "/X" of a product runs its removal, while an "/I" of an installed
 // product is a maintenance pass that changes nothing and exits 0.
-class RecordingPlatform final : public platform::Platform, public platform::Launcher {
+class RecordingPlatform final : public platform::ForwardingPlatform, public platform::Launcher {
 public:
     explicit RecordingPlatform(platform::Platform& inner)
-        : m_inner(inner)
+        : ForwardingPlatform(inner)
+        , m_inner(inner)
     {
     }
 
@@ -67,14 +68,7 @@ public:
         return m_inner.launcher().shellExecuteAndWait(request, timeoutMs);
     }
 
-    platform::Registry& registry() override { return m_inner.registry(); }
-    platform::Environment& environment() override { return m_inner.environment(); }
-    platform::WindowFrame& windowFrame() override { return m_inner.windowFrame(); }
-    platform::SystemCounters& counters() override { return m_inner.counters(); }
-    platform::FileSystem& fileSystem() override { return m_inner.fileSystem(); }
     platform::Launcher& launcher() override { return *this; }
-    platform::IconExtractor& icons() override { return m_inner.icons(); }
-    std::wstring sandboxRoot() const override { return m_inner.sandboxRoot(); }
 
 private:
     platform::Platform& m_inner;

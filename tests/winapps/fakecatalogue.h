@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/forwardingplatform.h"
 #include "platform/packagecatalogue.h"
 #include "platform/platform.h"
 #include "platform/sandbox/sandboxplatform.h"
@@ -11,9 +12,13 @@
 
 // A package catalogue with chosen packages and resource strings, optionally failing after a
 // number of packages as a runtime call can; current while it lives.
-class FakeCatalogue final : public platform::Platform, public platform::PackageCatalogue {
+class FakeCatalogue final : public platform::ForwardingPlatform, public platform::PackageCatalogue {
 public:
-    FakeCatalogue() { platform::setCurrent(this); }
+    FakeCatalogue()
+        : ForwardingPlatform(m_sandbox)
+    {
+        platform::setCurrent(this);
+    }
     ~FakeCatalogue() override { platform::setCurrent(nullptr); }
 
     std::vector<platform::PackageRecord> packages_;
@@ -38,15 +43,7 @@ public:
         return it == strings.end() ? std::nullopt : std::optional(it->second);
     }
 
-    platform::Registry& registry() override { return m_sandbox.registry(); }
-    platform::Environment& environment() override { return m_sandbox.environment(); }
-    platform::WindowFrame& windowFrame() override { return m_sandbox.windowFrame(); }
-    platform::SystemCounters& counters() override { return m_sandbox.counters(); }
-    platform::FileSystem& fileSystem() override { return m_sandbox.fileSystem(); }
-    platform::Launcher& launcher() override { return m_sandbox.launcher(); }
-    platform::IconExtractor& icons() override { return m_sandbox.icons(); }
     platform::PackageCatalogue& packages() override { return *this; }
-    std::wstring sandboxRoot() const override { return m_sandbox.sandboxRoot(); }
 
 private:
     QTemporaryDir m_dir;

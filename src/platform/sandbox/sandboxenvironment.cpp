@@ -61,6 +61,7 @@ std::wstring SandboxEnvironment::mapPath(const std::wstring& windowsPath) const
 
 std::optional<std::wstring> SandboxEnvironment::variable(const std::wstring& name) const
 {
+    std::lock_guard<std::mutex> lock(m_mutex);
     const auto it = m_vars.find(lowerAscii(name));
     if (it == m_vars.end())
         return std::nullopt;
@@ -90,6 +91,37 @@ std::wstring SandboxEnvironment::expand(const std::wstring& text) const
         pos = close + 1;
     }
     return out;
+}
+
+void SandboxEnvironment::setVariable(const std::wstring& name, const std::optional<std::wstring>& value)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    if (value)
+        m_vars[lowerAscii(name)] = *value;
+    else
+        m_vars.erase(lowerAscii(name));
+}
+
+std::wstring SandboxEnvironment::temp() const
+{
+    std::wstring folder;
+    for (const wchar_t* name : { L"TMP", L"TEMP", L"USERPROFILE" }) {
+        // An empty value counts as unset, as it does for Windows.
+        if (const auto value = variable(name); value && !value->empty()) {
+            folder = *value;
+            break;
+        }
+    }
+    if (folder.empty())
+        folder = m_drive + L"/Windows";
+    folder = mapPath(folder);
+    for (wchar_t& c : folder) {
+        if (c == L'\\')
+            c = L'/';
+    }
+    while (folder.size() > 1 && folder.back() == L'/' && folder != systemDriveRoot())
+        folder.pop_back();
+    return folder;
 }
 
 } // namespace platform

@@ -1,6 +1,7 @@
 #include "sandboxfilesystem.h"
 
 #include "../strings.h"
+#include "sandboxpath.h"
 
 #include <cerrno>
 #include <cstddef>
@@ -20,48 +21,6 @@ constexpr int MaxDepth = 400;
 
 // One large read per directory chunk: the listing is the hot path of a scan.
 constexpr std::size_t ListingBufferBytes = 64 * 1024;
-
-class UniqueFd {
-public:
-    explicit UniqueFd(int fd = -1)
-        : m_fd(fd)
-    {
-    }
-    ~UniqueFd() { reset(); }
-    UniqueFd(const UniqueFd&) = delete;
-    UniqueFd& operator=(const UniqueFd&) = delete;
-    UniqueFd(UniqueFd&& other) noexcept
-        : m_fd(other.release())
-    {
-    }
-    UniqueFd& operator=(UniqueFd&& other) noexcept
-    {
-        if (this != &other)
-            reset(other.release());
-        return *this;
-    }
-
-    int get() const { return m_fd; }
-    bool isValid() const { return m_fd >= 0; }
-    int release()
-    {
-        const int fd = m_fd;
-        m_fd = -1;
-        return fd;
-    }
-    void reset(int fd = -1)
-    {
-        if (m_fd >= 0) {
-            const int saved = errno;
-            ::close(m_fd);
-            errno = saved;
-        }
-        m_fd = fd;
-    }
-
-private:
-    int m_fd;
-};
 
 struct Entry {
     std::string name;
@@ -195,6 +154,15 @@ bool unlinkEntry(int dirFd, const char* name, int flags, EmptyFolderResult& resu
     return false;
 }
 
+// The sandbox's read-only attribute: a file its owner may not write, the reading Wine gives the
+// same mode bits. Unix would unlink such a file anyway; Windows refuses a plain delete of it, so
+// the emptied folder's own read-only files stay, while inside a folder being removed they go.
+bool isReadOnly(int dirFd, const char* name)
+{
+    struct stat st;
+    return ::fstatat(dirFd, name, &st, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(st.st_mode) && !(st.st_mode & S_IWUSR);
+}
+
 void emptyBelow(int dirFd, dev_t device, int depth, EmptyFolderResult& result)
 {
     std::vector<Entry> entries;
@@ -203,7 +171,12 @@ void emptyBelow(int dirFd, dev_t device, int depth, EmptyFolderResult& result)
         return;
     }
     for (const Entry& e : entries) {
-        if (entryType(dirFd, e) != DT_DIR) {
+        const unsigned char type = entryType(dirFd, e);
+        if (type != DT_DIR) {
+            if (depth == 0 && type == DT_REG && isReadOnly(dirFd, e.name.c_str())) {
+                noteFailure(result, EACCES);
+                continue;
+            }
             // Files, links and anything else go as themselves; unlinkat never follows a link.
             unlinkEntry(dirFd, e.name.c_str(), 0, result);
             continue;

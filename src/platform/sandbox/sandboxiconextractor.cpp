@@ -3,9 +3,11 @@
 #include "../strings.h"
 #include "sandboxenvironment.h"
 
+#include "sandboxpath.h"
+
+#include <fcntl.h>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -18,38 +20,30 @@ constexpr std::uint32_t ErrorResourceTypeNotFound = 1813;
 // Real icon files are a few hundred kilobytes at most; anything larger is not read.
 constexpr std::uintmax_t MaxIconFileBytes = 4 * 1024 * 1024;
 
-// Judged on the resolved path: a link inside the sandbox must not lead a read out of it.
-bool insideRoot(const fs::path& root, const fs::path& path)
+// Reads a file at or below the sandbox folder, reached one folder at a time without following a
+// link, so a link inside the sandbox cannot lead a read out of it.
+std::optional<std::vector<std::uint8_t>> readInside(const std::string& root, const std::string& path)
 {
-    std::error_code ec;
-    const fs::path base = fs::weakly_canonical(root, ec);
-    const fs::path target = fs::weakly_canonical(path, ec);
-    if (ec)
-        return false;
-    auto b = base.begin();
-    auto t = target.begin();
-    for (; b != base.end(); ++b, ++t) {
-        if (b->empty())
-            break;
-        if (t == target.end() || *b != *t)
-            return false;
-    }
-    return t != target.end();
+    const auto components = componentsBelow(root, path);
+    if (!components)
+        return std::nullopt;
+    const UniqueFd folder = openParentFolder(root, *components);
+    if (!folder.isValid())
+        return std::nullopt;
+    const auto bytes = readFileAt(folder.get(), components->back(), MaxIconFileBytes);
+    if (!bytes || bytes->empty())
+        return std::nullopt;
+    return std::vector<std::uint8_t>(bytes->begin(), bytes->end());
 }
 
-bool readImageFile(const fs::path& file, std::vector<std::uint8_t>& out)
+bool existsInside(const std::string& root, const std::string& path)
 {
-    std::error_code ec;
-    if (!fs::is_regular_file(file, ec))
+    const auto components = componentsBelow(root, path);
+    if (!components)
         return false;
-    const std::uintmax_t size = fs::file_size(file, ec);
-    if (ec || size == 0 || size > MaxIconFileBytes)
-        return false;
-    std::ifstream in(file, std::ios::binary);
-    if (!in)
-        return false;
-    out.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    return !out.empty();
+    const UniqueFd folder = openParentFolder(root, *components);
+    struct stat st;
+    return folder.isValid() && ::fstatat(folder.get(), components->back().c_str(), &st, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
 } // namespace
@@ -63,29 +57,31 @@ IconResult SandboxIconExtractor::extract(const std::wstring& path, int index)
 {
     IconResult result;
     const SandboxEnvironment env(m_root);
-    const fs::path file(toUtf8(env.mapPath(path)));
-    std::error_code ec;
-    if (path.empty() || !insideRoot(fs::path(toUtf8(m_root)), file) || !fs::exists(file, ec)) {
+    const std::string root = toUtf8(m_root);
+    const std::string file = toUtf8(env.mapPath(path));
+    if (path.empty() || !existsInside(root, file)) {
         result.error = ErrorFileNotFound;
         return result;
     }
-    const std::wstring ext = lowerAscii(fromUtf8(file.extension().string()));
+    const std::wstring ext = lowerAscii(fromUtf8(fs::path(file).extension().string()));
     if (ext == L".ico" || ext == L".png") {
-        if (!readImageFile(file, result.image.encoded))
+        if (auto bytes = readInside(root, file))
+            result.image.encoded = std::move(*bytes);
+        else
             result.error = ErrorResourceTypeNotFound;
         return result;
     }
-    const std::string base = file.string();
     const std::string candidates[] = {
-        base + "." + std::to_string(index) + ".ico",
-        base + "." + std::to_string(index) + ".png",
-        base + ".ico",
-        base + ".png",
+        file + "." + std::to_string(index) + ".ico",
+        file + "." + std::to_string(index) + ".png",
+        file + ".ico",
+        file + ".png",
     };
     for (const std::string& candidate : candidates) {
-        if (insideRoot(fs::path(toUtf8(m_root)), fs::path(candidate))
-            && readImageFile(fs::path(candidate), result.image.encoded))
+        if (auto bytes = readInside(root, candidate)) {
+            result.image.encoded = std::move(*bytes);
             return result;
+        }
     }
     result.error = ErrorResourceTypeNotFound;
     return result;

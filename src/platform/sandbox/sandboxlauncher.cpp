@@ -4,14 +4,13 @@
 #include "../strings.h"
 #include "regfile.h"
 #include "sandboxenvironment.h"
+#include "sandboxfilesystem.h"
+#include "sandboxpath.h"
 
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
+#include <fcntl.h>
 #include <sstream>
-#include <vector>
-
-namespace fs = std::filesystem;
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform {
 
@@ -36,49 +35,56 @@ std::string trim(const std::string& s)
     return s.substr(b, s.find_last_not_of(" \t\r\n") - b + 1);
 }
 
-std::vector<fs::path> parts(const fs::path& path)
+// Descriptions are a few lines; anything larger is not one.
+constexpr std::size_t MaxDescriptionBytes = 64 * 1024;
+
+// A place strictly inside the sandbox's drive, reached one folder at a time without following a
+// link: the folder that holds it, opened, and its own name there.
+struct Place {
+    UniqueFd folder;
+    std::string name;
+    std::string path; // the cleaned-up path, for walks that take one
+};
+
+std::optional<Place> placeOnDrive(const std::string& root, const std::string& path)
 {
-    std::vector<fs::path> out;
-    for (const fs::path& part : path.lexically_normal()) {
-        if (!part.empty())
-            out.push_back(part);
-    }
-    return out;
+    const auto components = componentsBelow(root, path);
+    if (!components || components->size() < 2 || components->front() != "C")
+        return std::nullopt;
+    Place place { openParentFolder(root, *components), components->back(), root };
+    if (!place.folder.isValid())
+        return std::nullopt;
+    for (const std::string& part : *components)
+        place.path += "/" + part;
+    return place;
 }
 
-// True when the path lies strictly inside the folder, judged on the text and on every folder
-// between them: a link on the way could lead anywhere, so it disqualifies the path.
-bool strictlyInside(const fs::path& folder, const fs::path& path)
+std::optional<std::string> readDescription(const std::string& root, const std::string& path)
 {
-    const std::vector<fs::path> base = parts(folder);
-    const std::vector<fs::path> target = parts(path);
-    if (target.size() <= base.size() || !std::equal(base.begin(), base.end(), target.begin()))
-        return false;
-    fs::path walk = folder;
-    for (std::size_t i = base.size(); i < target.size(); ++i) {
-        if (target[i] == "." || target[i] == "..")
-            return false;
-        if (i + 1 == target.size())
-            break; // the target itself may be a link: it is removed, not entered
-        walk /= target[i];
-        std::error_code ec;
-        if (fs::is_symlink(fs::symlink_status(walk, ec)))
-            return false;
-    }
-    return true;
+    const auto place = placeOnDrive(root, path);
+    if (!place)
+        return std::nullopt;
+    return readFileAt(place->folder.get(), place->name, MaxDescriptionBytes);
 }
 
-std::optional<std::string> readText(const fs::path& file)
+bool isProgramFile(const Place& place)
 {
-    std::error_code ec;
-    if (!fs::is_regular_file(file, ec))
-        return std::nullopt;
-    std::ifstream in(file, std::ios::binary);
-    if (!in)
-        return std::nullopt;
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
+    struct stat st;
+    return ::fstatat(place.folder.get(), place.name.c_str(), &st, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(st.st_mode);
+}
+
+// Removes what the place names as itself: a file or link goes, a folder goes with all it holds.
+void removePlace(const std::string& root, const Place& place)
+{
+    struct stat st;
+    if (::fstatat(place.folder.get(), place.name.c_str(), &st, AT_SYMLINK_NOFOLLOW) != 0)
+        return;
+    if (S_ISDIR(st.st_mode)) {
+        SandboxFileSystem(fromUtf8(root)).emptyFolder(fromUtf8(place.path));
+        ::unlinkat(place.folder.get(), place.name.c_str(), AT_REMOVEDIR);
+    } else {
+        ::unlinkat(place.folder.get(), place.name.c_str(), 0);
+    }
 }
 
 } // namespace
@@ -93,7 +99,7 @@ ShellExecuteResult SandboxLauncher::shellExecuteAndWait(const ShellExecuteReques
 {
     (void)timeoutMs; // nothing really runs, so nothing is waited for
     const SandboxEnvironment env(m_root);
-    const fs::path drive(toUtf8(env.systemDriveRoot()));
+    const std::string root = toUtf8(m_root);
     ShellExecuteResult result;
 
     const std::wstring name = lowerAscii(baseName(request.file));
@@ -116,7 +122,7 @@ ShellExecuteResult SandboxLauncher::shellExecuteAndWait(const ShellExecuteReques
             result.exitCode = ErrorUnknownProduct;
             return result;
         }
-        const auto script = readText(fs::path(toUtf8(env.mapPath(L"C:/Windows/Installer/" + code + demoSuffix()))));
+        const auto script = readDescription(root, toUtf8(env.mapPath(L"C:/Windows/Installer/" + code + demoSuffix())));
         if (!script) {
             result.exitCode = ErrorUnknownProduct;
             return result;
@@ -124,14 +130,13 @@ ShellExecuteResult SandboxLauncher::shellExecuteAndWait(const ShellExecuteReques
         return play(*script);
     }
 
-    const fs::path target(toUtf8(env.mapPath(request.file)));
-    std::error_code ec;
-    if (request.file.empty() || !strictlyInside(drive, target) || !fs::is_regular_file(target, ec)) {
+    const auto target = request.file.empty() ? std::nullopt : placeOnDrive(root, toUtf8(env.mapPath(request.file)));
+    if (!target || !isProgramFile(*target)) {
         result.error = ErrorFileNotFound;
         result.message = L"The sandbox has no program at " + request.file;
         return result;
     }
-    const auto script = readText(fs::path(target.native() + toUtf8(demoSuffix())));
+    const auto script = readFileAt(target->folder.get(), target->name + toUtf8(demoSuffix()), MaxDescriptionBytes);
     if (!script) {
         result.error = ErrorAccessDisabledByPolicy;
         result.message = L"The sandbox runs only demo uninstallers; " + request.file + demoSuffix() + L" is missing";
@@ -145,7 +150,7 @@ ShellExecuteResult SandboxLauncher::shellExecuteAndWait(const ShellExecuteReques
 ShellExecuteResult SandboxLauncher::play(const std::string& script) const
 {
     const SandboxEnvironment env(m_root);
-    const fs::path drive(toUtf8(env.systemDriveRoot()));
+    const std::string root = toUtf8(m_root);
     ShellExecuteResult result;
     result.started = true;
     result.waitResult = WaitObject0;
@@ -170,13 +175,9 @@ ShellExecuteResult SandboxLauncher::play(const std::string& script) const
         } else if (key == "running") {
             running = value == "1";
         } else if (key == "delete") {
-            const fs::path victim(toUtf8(env.mapPath(fromUtf8(value))));
-            // Only inside the sandbox's drive, never the drive itself, never through a link;
-            // remove_all removes a link without entering it.
-            if (strictlyInside(drive, victim)) {
-                std::error_code ec;
-                fs::remove_all(victim, ec);
-            }
+            // Only inside the sandbox's drive, never the drive itself, never through a link.
+            if (const auto victim = placeOnDrive(root, toUtf8(env.mapPath(fromUtf8(value)))))
+                removePlace(root, *victim);
         } else if (key == "unregister" && m_registry) {
             Hive hive;
             std::wstring path;

@@ -1,19 +1,60 @@
 #include "sandboxregistry.h"
 
+#include "sandboxpath.h"
+
+#include <cerrno>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform {
 
 namespace {
 
+// The registry file is read as itself: a link planted in its place leads nowhere.
 std::vector<std::uint8_t> readWholeFile(const std::string& path)
 {
-    std::ifstream in(path, std::ios::binary);
-    if (!in)
+    UniqueFd fd(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    struct stat st;
+    if (!fd.isValid() || ::fstat(fd.get(), &st) != 0 || !S_ISREG(st.st_mode))
         return {};
-    return std::vector<std::uint8_t>(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    std::vector<std::uint8_t> bytes;
+    std::uint8_t buffer[64 * 1024];
+    for (;;) {
+        const ssize_t n = ::read(fd.get(), buffer, sizeof buffer);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return bytes;
+        bytes.insert(bytes.end(), buffer, buffer + n);
+    }
+}
+
+// A new file that nothing else named before: a link or file planted under the name is removed
+// (as itself) and the name taken afresh, never written through.
+UniqueFd createFresh(const std::string& path)
+{
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        UniqueFd fd(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644));
+        if (fd.isValid() || errno != EEXIST || ::unlink(path.c_str()) != 0)
+            return fd;
+    }
+    return UniqueFd();
+}
+
+bool writeAll(int fd, const std::string& text)
+{
+    std::size_t done = 0;
+    while (done < text.size()) {
+        const ssize_t n = ::write(fd, text.data() + done, text.size() - done);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return false;
+        done += static_cast<std::size_t>(n);
+    }
+    return true;
 }
 
 } // namespace
@@ -145,15 +186,17 @@ Status SandboxRegistry::save()
     const std::string text = RegFile::serialize(m_tree);
     const std::string temp = m_file + ".saving";
     {
-        std::ofstream out(temp, std::ios::binary | std::ios::trunc);
-        if (!out)
+        UniqueFd out = createFresh(temp);
+        if (!out.isValid())
             return Status::Failed;
-        out.write(text.data(), static_cast<std::streamsize>(text.size()));
-        out.flush();
-        if (!out)
+        if (!writeAll(out.get(), text)) {
+            out.reset();
+            ::unlink(temp.c_str());
             return Status::Failed;
+        }
     }
-    // rename() replaces the old file in one step, so a reader never sees half a registry.
+    // rename() replaces the old file in one step, so a reader never sees half a registry; a link
+    // in its place is replaced too, never followed.
     if (std::rename(temp.c_str(), m_file.c_str()) != 0) {
         std::remove(temp.c_str());
         return Status::Failed;

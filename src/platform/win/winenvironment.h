@@ -13,6 +13,7 @@ public:
     std::wstring mapPath(const std::wstring& windowsPath) const override;
     std::optional<std::wstring> variable(const std::wstring& name) const override;
     std::wstring expand(const std::wstring& text) const override;
+    std::wstring temp() const override;
 };
 
 } // namespace platform

@@ -2,20 +2,34 @@
 
 #include "winhandle.h"
 
+#include <winternl.h>
+
+#include <cstddef>
+
 namespace platform {
 
 namespace {
 
-// Each level of a walk holds a path one component longer; beyond this depth a folder is left
-// alone rather than risking the pool thread's stack on a pathological tree.
+// Each level of a walk keeps its folder open; beyond this depth a folder is left alone rather
+// than risking the handle count or the pool thread's stack on a pathological tree.
 constexpr int MaxDepth = 400;
 
-struct FindTraits {
-    using type = HANDLE;
-    static type invalid() { return INVALID_HANDLE_VALUE; }
-    static void close(type handle) { ::FindClose(handle); }
-};
-using UniqueFind = UniqueAny<FindTraits>;
+// One large read per directory chunk: the listing is the hot path of a scan.
+constexpr std::size_t ListingBufferBytes = 64 * 1024;
+
+// The few NTSTATUS values the walk tells apart; ntstatus.h clashes with windows.h.
+constexpr NTSTATUS StatusAccessDenied = static_cast<NTSTATUS>(0xC0000022);
+constexpr NTSTATUS StatusObjectNameNotFound = static_cast<NTSTATUS>(0xC0000034);
+constexpr NTSTATUS StatusObjectPathNotFound = static_cast<NTSTATUS>(0xC000003A);
+constexpr NTSTATUS StatusNotADirectory = static_cast<NTSTATUS>(0xC0000103);
+
+// Windows 10 1809's disposition class; mingw-w64 hides it behind a version test that never holds.
+constexpr auto FileDispositionInfoExClass = static_cast<FILE_INFO_BY_HANDLE_CLASS>(21);
+
+constexpr ULONG ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+// Rights to walk a folder: list it, read what it is, and wait on synchronous I/O.
+constexpr ACCESS_MASK WalkAccess = FILE_LIST_DIRECTORY | FILE_READ_ATTRIBUTES | SYNCHRONIZE;
 
 // Backslashes, no trailing separator, and the "\\?\" prefix on absolute paths so that deep
 // trees are not cut off at MAX_PATH. The prefix also switches off Win32's own clean-up of the
@@ -51,8 +65,56 @@ std::wstring toWin32Path(const std::wstring& path)
 
 bool isRealFolder(DWORD attributes)
 {
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY)
-        && !(attributes & FILE_ATTRIBUTE_REPARSE_POINT);
+    return (attributes & FILE_ATTRIBUTE_DIRECTORY) && !(attributes & FILE_ATTRIBUTE_REPARSE_POINT);
+}
+
+// The attributes of what a handle names, INVALID_FILE_ATTRIBUTES when they cannot be read.
+DWORD attributesOf(HANDLE handle)
+{
+    FILE_BASIC_INFO info {};
+    if (!::GetFileInformationByHandleEx(handle, FileBasicInfo, &info, sizeof info))
+        return INVALID_FILE_ATTRIBUTES;
+    return info.FileAttributes;
+}
+
+// Opens the folder a caller names, the last component as itself: a link there is opened as the
+// link, so its attributes give it away and it is never listed.
+UniqueHfile openTopFolder(const std::wstring& folder, DWORD& attributes, ACCESS_MASK access = WalkAccess)
+{
+    attributes = INVALID_FILE_ATTRIBUTES;
+    const std::wstring path = toWin32Path(folder);
+    if (path.empty())
+        return UniqueHfile();
+    UniqueHfile handle(::CreateFileW(path.c_str(), access, ShareAll, nullptr, OPEN_EXISTING,
+        FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    if (!handle)
+        return handle;
+    attributes = attributesOf(handle.get());
+    // Wine opens a Unix link as its target even when asked not to, and only the path still shows
+    // the link; on Windows both agree.
+    const DWORD byPath = ::GetFileAttributesW(path.c_str());
+    if (byPath == INVALID_FILE_ATTRIBUTES || (byPath & FILE_ATTRIBUTE_REPARSE_POINT))
+        attributes = byPath;
+    return handle;
+}
+
+// Opens `name` inside the folder `parent` holds, never by a path: what the walk listed is what it
+// acts on, even if a folder higher up is swapped for a junction meanwhile. FILE_OPEN_REPARSE_POINT
+// opens a link as itself.
+NTSTATUS openChild(HANDLE parent, const std::wstring& name, ACCESS_MASK access, ULONG options, UniqueHfile& out)
+{
+    UNICODE_STRING objectName;
+    objectName.Buffer = const_cast<PWSTR>(name.c_str());
+    objectName.Length = static_cast<USHORT>(name.size() * sizeof(wchar_t));
+    objectName.MaximumLength = objectName.Length;
+    OBJECT_ATTRIBUTES attributes;
+    InitializeObjectAttributes(&attributes, &objectName, OBJ_CASE_INSENSITIVE, parent, nullptr);
+    IO_STATUS_BLOCK io {};
+    HANDLE handle = nullptr;
+    const NTSTATUS status = ::NtOpenFile(&handle, access | SYNCHRONIZE, &attributes, &io, ShareAll,
+        options | FILE_OPEN_REPARSE_POINT | FILE_SYNCHRONOUS_IO_NONALERT | FILE_OPEN_FOR_BACKUP_INTENT);
+    out.reset(NT_SUCCESS(status) ? handle : INVALID_HANDLE_VALUE);
+    return status;
 }
 
 struct Entry {
@@ -62,41 +124,40 @@ struct Entry {
     std::int64_t size;
 };
 
-// Reads the whole listing and closes the search before the caller acts on it, so a deep walk
-// holds one search handle at a time and deleting entries cannot disturb the enumeration.
-bool readEntries(const std::wstring& folder, std::vector<Entry>& out, DWORD& error)
+// Reads the whole listing of an open folder from its start, so the caller may delete entries
+// while it goes through them.
+bool readEntries(HANDLE folder, std::vector<Entry>& out, DWORD& error)
 {
     out.clear();
     error = ERROR_SUCCESS;
-    WIN32_FIND_DATAW data;
-    const std::wstring pattern = folder + (folder.back() == L'\\' ? L"*" : L"\\*");
-    UniqueFind find(::FindFirstFileExW(
-        pattern.c_str(), FindExInfoBasic, &data, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
-    if (!find) {
-        error = ::GetLastError();
-        // A drive root has no "." entry, so an empty one reports "not found".
-        return error == ERROR_FILE_NOT_FOUND;
+    // 8-byte aligned, as the records are.
+    static thread_local std::vector<std::uint64_t> buffer(ListingBufferBytes / sizeof(std::uint64_t));
+    const DWORD bufferBytes = static_cast<DWORD>(buffer.size() * sizeof(std::uint64_t));
+    FILE_INFO_BY_HANDLE_CLASS infoClass = FileIdBothDirectoryRestartInfo;
+    for (;;) {
+        if (!::GetFileInformationByHandleEx(folder, infoClass, buffer.data(), bufferBytes)) {
+            error = ::GetLastError();
+            if (error == ERROR_NO_MORE_FILES || error == ERROR_FILE_NOT_FOUND) {
+                error = ERROR_SUCCESS;
+                return true;
+            }
+            return false;
+        }
+        infoClass = FileIdBothDirectoryInfo;
+        const auto* bytes = reinterpret_cast<const unsigned char*>(buffer.data());
+        for (std::size_t pos = 0;;) {
+            const auto* info = reinterpret_cast<const FILE_ID_BOTH_DIR_INFO*>(bytes + pos);
+            const std::wstring name(info->FileName, info->FileNameLength / sizeof(wchar_t));
+            if (name != L"." && name != L"..") {
+                // For a reparse point the extended-attribute size field carries its tag instead.
+                const DWORD tag = (info->FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) ? info->EaSize : 0;
+                out.push_back({ name, info->FileAttributes, tag, info->EndOfFile.QuadPart });
+            }
+            if (info->NextEntryOffset == 0)
+                break;
+            pos += info->NextEntryOffset;
+        }
     }
-    do {
-        const wchar_t* n = data.cFileName;
-        if (n[0] == L'.' && (n[1] == L'\0' || (n[1] == L'.' && n[2] == L'\0')))
-            continue;
-        const std::int64_t size
-            = static_cast<std::int64_t>((static_cast<std::uint64_t>(data.nFileSizeHigh) << 32) | data.nFileSizeLow);
-        const DWORD tag = (data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) ? data.dwReserved0 : 0;
-        out.push_back({ n, data.dwFileAttributes, tag, size });
-    } while (::FindNextFileW(find.get(), &data));
-    error = ::GetLastError();
-    if (error == ERROR_NO_MORE_FILES) {
-        error = ERROR_SUCCESS;
-        return true;
-    }
-    return false;
-}
-
-std::wstring child(const std::wstring& folder, const std::wstring& name)
-{
-    return folder.back() == L'\\' ? folder + name : folder + L'\\' + name;
 }
 
 // A file-like entry that only points elsewhere (a file symbolic link) holds none of the bytes it
@@ -109,7 +170,7 @@ bool isLinkToElsewhere(const Entry& e)
     return e.reparseTag == 0 || IsReparseTagNameSurrogate(e.reparseTag);
 }
 
-std::int64_t sizeBelow(const std::wstring& folder, int depth)
+std::int64_t sizeBelow(HANDLE folder, int depth)
 {
     std::vector<Entry> entries;
     DWORD error;
@@ -118,8 +179,12 @@ std::int64_t sizeBelow(const std::wstring& folder, int depth)
     std::int64_t total = 0;
     for (const Entry& e : entries) {
         if (e.attributes & FILE_ATTRIBUTE_DIRECTORY) {
-            if (!(e.attributes & FILE_ATTRIBUTE_REPARSE_POINT) && depth < MaxDepth)
-                total += sizeBelow(child(folder, e.name), depth + 1);
+            if (!isRealFolder(e.attributes) || depth >= MaxDepth)
+                continue;
+            UniqueHfile sub;
+            if (NT_SUCCESS(openChild(folder, e.name, WalkAccess, FILE_DIRECTORY_FILE, sub))
+                && isRealFolder(attributesOf(sub.get())))
+                total += sizeBelow(sub.get(), depth + 1);
         } else if (!isLinkToElsewhere(e)) {
             total += e.size;
         }
@@ -134,16 +199,127 @@ void noteFailure(EmptyFolderResult& result, DWORD error)
         result.firstError = error;
 }
 
-void account(BOOL ok, EmptyFolderResult& result)
+DWORD errorFrom(NTSTATUS status)
 {
-    const DWORD error = ok ? ERROR_SUCCESS : ::GetLastError();
-    if (ok || isNotFound(error))
+    return ::RtlNtStatusToDosError(status);
+}
+
+bool setAttributes(HANDLE handle, DWORD attributes)
+{
+    FILE_BASIC_INFO info {};
+    info.FileAttributes = attributes == 0 ? FILE_ATTRIBUTE_NORMAL : attributes;
+    return ::SetFileInformationByHandle(handle, FileBasicInfo, &info, sizeof info);
+}
+
+// Marks what the handle names for deletion; it goes when the handle closes. The handle was opened
+// with FILE_OPEN_REPARSE_POINT, so for a link that is the link and never its target.
+// `clearReadOnly` is the walk inside a folder being removed: there a read-only entry is made
+// writable and deleted all the same, and keeps its attribute if it still cannot go.
+bool markForDeletion(HANDLE handle, bool clearReadOnly, DWORD& error)
+{
+    FILE_DISPOSITION_INFO_EX ex {};
+    ex.Flags = FILE_DISPOSITION_FLAG_DELETE | FILE_DISPOSITION_FLAG_POSIX_SEMANTICS
+        | (clearReadOnly ? FILE_DISPOSITION_FLAG_IGNORE_READONLY_ATTRIBUTE : 0);
+    if (::SetFileInformationByHandle(handle, FileDispositionInfoExClass, &ex, sizeof ex))
+        return true;
+    // Windows before 10 1809, and Wine, know only the plain disposition.
+    FILE_DISPOSITION_INFO plain { TRUE };
+    if (::SetFileInformationByHandle(handle, FileDispositionInfo, &plain, sizeof plain))
+        return true;
+    error = ::GetLastError();
+    if (!clearReadOnly || error != ERROR_ACCESS_DENIED)
+        return false;
+    const DWORD attributes = attributesOf(handle);
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_READONLY))
+        return false;
+    if (!setAttributes(handle, attributes & ~FILE_ATTRIBUTE_READONLY))
+        return false;
+    if (::SetFileInformationByHandle(handle, FileDispositionInfo, &plain, sizeof plain))
+        return true;
+    error = ::GetLastError();
+    setAttributes(handle, attributes);
+    return false;
+}
+
+// Deletes the open entry `handle` names and accounts for it.
+void deleteOpened(HANDLE handle, bool clearReadOnly, EmptyFolderResult& result)
+{
+    DWORD error = ERROR_SUCCESS;
+    if (markForDeletion(handle, clearReadOnly, error))
         ++result.removed;
     else
         noteFailure(result, error);
 }
 
-void emptyBelow(const std::wstring& folder, int depth, EmptyFolderResult& result)
+// Opens an entry for deletion; making a read-only entry writable needs the right to change
+// attributes, which an entry may refuse while still allowing its deletion.
+NTSTATUS openForDeletion(
+    HANDLE parent, const std::wstring& name, ACCESS_MASK extra, ULONG options, bool clearReadOnly, UniqueHfile& out)
+{
+    const ACCESS_MASK access = DELETE | FILE_READ_ATTRIBUTES | extra;
+    NTSTATUS status = StatusAccessDenied;
+    if (clearReadOnly)
+        status = openChild(parent, name, access | FILE_WRITE_ATTRIBUTES, options, out);
+    if (status == StatusAccessDenied)
+        status = openChild(parent, name, access, options, out);
+    return status;
+}
+
+void emptyBelow(HANDLE folder, int depth, EmptyFolderResult& result);
+
+// Removes one entry of an open folder as itself: a file or a link goes whole, a real folder is
+// emptied through its own handle and then removed by that same handle.
+void removeEntry(HANDLE parent, const Entry& e, int depth, EmptyFolderResult& result)
+{
+    // The category folder's own files go as a plain delete would take them; below it, and for
+    // the folders it holds, the whole tree is being removed.
+    const bool clearReadOnly = depth > 0 || (e.attributes & FILE_ATTRIBUTE_DIRECTORY);
+    const bool listedAsFolder = isRealFolder(e.attributes);
+    UniqueHfile handle;
+    NTSTATUS status = StatusNotADirectory;
+    if (listedAsFolder)
+        status = openForDeletion(parent, e.name, FILE_LIST_DIRECTORY, FILE_DIRECTORY_FILE, clearReadOnly, handle);
+    if (status == StatusNotADirectory)
+        status = openForDeletion(parent, e.name, 0, 0, clearReadOnly, handle);
+    if (status == StatusAccessDenied && listedAsFolder) {
+        // A folder that may not be deleted can still hold what may.
+        status = openChild(parent, e.name, WalkAccess, FILE_DIRECTORY_FILE, handle);
+        if (NT_SUCCESS(status) && isRealFolder(attributesOf(handle.get())) && depth < MaxDepth)
+            emptyBelow(handle.get(), depth + 1, result);
+        noteFailure(result, ERROR_ACCESS_DENIED);
+        return;
+    }
+    if (!NT_SUCCESS(status)) {
+        if (status != StatusObjectNameNotFound && status != StatusObjectPathNotFound)
+            noteFailure(result, errorFrom(status));
+        return;
+    }
+    const DWORD now = attributesOf(handle.get());
+    if (now == INVALID_FILE_ATTRIBUTES) {
+        noteFailure(result, ::GetLastError());
+        return;
+    }
+    if ((e.attributes & FILE_ATTRIBUTE_REPARSE_POINT) && !(now & FILE_ATTRIBUTE_REPARSE_POINT)) {
+        // Listed as a link, yet the handle names no link: the open went through to the target
+        // (Wine does that with Unix links), and deleting by this handle would delete the target.
+        noteFailure(result, ERROR_CANT_ACCESS_FILE);
+        return;
+    }
+    if (!isRealFolder(now) || !listedAsFolder) {
+        // A file, a link of any kind (also one swapped in for a folder since the listing), or a
+        // folder that appeared where a file was listed: it goes as itself, never entered.
+        deleteOpened(handle.get(), clearReadOnly, result);
+        return;
+    }
+    if (depth >= MaxDepth) {
+        noteFailure(result, ERROR_CANT_RESOLVE_FILENAME);
+        return;
+    }
+    emptyBelow(handle.get(), depth + 1, result);
+    deleteOpened(handle.get(), clearReadOnly, result);
+}
+
+void emptyBelow(HANDLE folder, int depth, EmptyFolderResult& result)
 {
     std::vector<Entry> entries;
     DWORD error;
@@ -151,56 +327,27 @@ void emptyBelow(const std::wstring& folder, int depth, EmptyFolderResult& result
         noteFailure(result, error);
         return;
     }
-    for (const Entry& e : entries) {
-        const std::wstring path = child(folder, e.name);
-        if (!(e.attributes & FILE_ATTRIBUTE_DIRECTORY)) {
-            // DeleteFileW removes a file symbolic link itself, never its target.
-            account(::DeleteFileW(path.c_str()), result);
-            continue;
-        }
-        if (e.attributes & FILE_ATTRIBUTE_REPARSE_POINT) {
-            // A junction or folder link: RemoveDirectoryW removes the link and leaves the target.
-            account(::RemoveDirectoryW(path.c_str()), result);
-            continue;
-        }
-        // Look again right before entering: a folder swapped for a junction since the listing
-        // must be removed as a link, not walked.
-        const DWORD now = ::GetFileAttributesW(path.c_str());
-        if (now == INVALID_FILE_ATTRIBUTES) {
-            const DWORD gone = ::GetLastError();
-            if (!isNotFound(gone))
-                noteFailure(result, gone);
-            continue;
-        }
-        if (!isRealFolder(now)) {
-            account((now & FILE_ATTRIBUTE_DIRECTORY) ? ::RemoveDirectoryW(path.c_str()) : ::DeleteFileW(path.c_str()),
-                result);
-            continue;
-        }
-        if (depth >= MaxDepth) {
-            noteFailure(result, ERROR_CANT_RESOLVE_FILENAME);
-            continue;
-        }
-        emptyBelow(path, depth + 1, result);
-        account(::RemoveDirectoryW(path.c_str()), result);
-    }
+    for (const Entry& e : entries)
+        removeEntry(folder, e, depth, result);
 }
 
 } // namespace
 
 bool WinFileSystem::isFolder(const std::wstring& path)
 {
-    return isRealFolder(::GetFileAttributesW(toWin32Path(path).c_str()));
+    // Being there is enough: a folder the user may not list (C:\Windows\Temp unelevated) is still one.
+    DWORD attributes;
+    const UniqueHfile folder = openTopFolder(path, attributes, FILE_READ_ATTRIBUTES | SYNCHRONIZE);
+    return folder && isRealFolder(attributes);
 }
 
 std::optional<std::vector<std::wstring>> WinFileSystem::subFolders(const std::wstring& folder)
 {
-    const std::wstring path = toWin32Path(folder);
-    if (!isRealFolder(::GetFileAttributesW(path.c_str())))
-        return std::nullopt;
+    DWORD attributes;
+    const UniqueHfile handle = openTopFolder(folder, attributes);
     std::vector<Entry> entries;
     DWORD error;
-    if (!readEntries(path, entries, error))
+    if (!handle || !isRealFolder(attributes) || !readEntries(handle.get(), entries, error))
         return std::nullopt;
     std::vector<std::wstring> names;
     for (const Entry& e : entries) {
@@ -212,20 +359,22 @@ std::optional<std::vector<std::wstring>> WinFileSystem::subFolders(const std::ws
 
 std::int64_t WinFileSystem::folderSize(const std::wstring& folder)
 {
-    const std::wstring path = toWin32Path(folder);
-    if (!isRealFolder(::GetFileAttributesW(path.c_str())))
+    DWORD attributes;
+    const UniqueHfile handle = openTopFolder(folder, attributes);
+    if (!handle || !isRealFolder(attributes))
         return 0;
-    return sizeBelow(path, 0);
+    return sizeBelow(handle.get(), 0);
 }
 
 EmptyFolderResult WinFileSystem::emptyFolder(const std::wstring& folder)
 {
     EmptyFolderResult result;
-    const std::wstring path = toWin32Path(folder);
-    if (!isRealFolder(::GetFileAttributesW(path.c_str())))
+    DWORD attributes;
+    const UniqueHfile handle = openTopFolder(folder, attributes);
+    if (!handle || !isRealFolder(attributes))
         return result;
     result.opened = true;
-    emptyBelow(path, 0, result);
+    emptyBelow(handle.get(), 0, result);
     return result;
 }
 

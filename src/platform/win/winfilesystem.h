@@ -4,10 +4,11 @@
 
 namespace platform {
 
-// The Win32 file system. Walks list each folder with FindFirstFileExW (basic information, large
-// fetch), so sizes come from the directory entries and no file is opened. A folder with a reparse
-// point (symbolic link, junction, mounted volume, cloud placeholder) is never entered; a link is
-// deleted as a link with RemoveDirectoryW or DeleteFileW, which never touch its target.
+// The Win32 file system. A walk holds each folder open and works relative to that handle: it
+// lists the folder through the handle (sizes come from the listing, so no file is opened), and
+// opens and deletes each child by name relative to it with FILE_OPEN_REPARSE_POINT, so a folder
+// swapped for a junction mid-walk is deleted as a junction and never entered. A folder with a
+// reparse point (symbolic link, junction, mounted volume, cloud placeholder) is never entered.
 class WinFileSystem final : public FileSystem {
 public:
     WinFileSystem() = default;

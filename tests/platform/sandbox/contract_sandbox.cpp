@@ -1,9 +1,14 @@
 #include "contract.h"
 
+#include "platform/sandbox/sandboxenvironment.h"
 #include "platform/sandbox/sandboxpackagecatalogue.h"
 #include "platform/sandbox/sandboxregistry.h"
 
+#include "platform/sandbox/sandboxprocesses.h"
+#include "platform/strings.h"
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 namespace contract {
 
@@ -23,17 +28,6 @@ std::unique_ptr<platform::PackageCatalogue> makeContractCatalogue()
     const auto root = std::filesystem::temp_directory_path() / "norvale-contract-no-package-runtime";
     return std::make_unique<platform::SandboxPackageCatalogue>(root.wstring());
 }
-
-} // namespace contract
-
-#include "platform/sandbox/sandboxenvironment.h"
-#include "platform/sandbox/sandboxprocesses.h"
-#include "platform/strings.h"
-
-#include <cstdlib>
-#include <fstream>
-
-namespace contract {
 
 namespace {
 
@@ -82,6 +76,17 @@ std::optional<StartedProcess> startLongRunningProcess()
 bool waitUntilEnded(std::uint32_t)
 {
     return true; // a line removed is a process gone
+}
+
+std::unique_ptr<platform::Environment> makeContractEnvironment()
+{
+    return std::make_unique<platform::SandboxEnvironment>(L"/nonexistent/norvale-contract"); // never touched
+}
+
+void setContractVariable(
+    platform::Environment& environment, const std::wstring& name, const std::optional<std::wstring>& value)
+{
+    static_cast<platform::SandboxEnvironment&>(environment).setVariable(name, value);
 }
 
 } // namespace contract

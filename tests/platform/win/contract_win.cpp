@@ -1,8 +1,12 @@
 #include "contract.h"
 
+#include "platform/win/winenvironment.h"
 #include "platform/win/winpackagecatalogue.h"
 #include "platform/win/winregistry.h"
 
+#include "platform/win/winhandle.h"
+#include "platform/win/winprocesses.h"
+#include <map>
 #include <windows.h>
 
 namespace contract {
@@ -21,15 +25,6 @@ std::unique_ptr<platform::PackageCatalogue> makeContractCatalogue()
 {
     return std::make_unique<platform::WinPackageCatalogue>();
 }
-
-} // namespace contract
-
-#include "platform/win/winhandle.h"
-#include "platform/win/winprocesses.h"
-
-#include <map>
-
-namespace contract {
 
 namespace {
 
@@ -76,6 +71,16 @@ bool waitUntilEnded(std::uint32_t pid)
     const bool ended = ::WaitForSingleObject(it->second.get(), 10000) == WAIT_OBJECT_0;
     startedProcesses().erase(it);
     return ended;
+}
+
+std::unique_ptr<platform::Environment> makeContractEnvironment()
+{
+    return std::make_unique<platform::WinEnvironment>();
+}
+
+void setContractVariable(platform::Environment&, const std::wstring& name, const std::optional<std::wstring>& value)
+{
+    ::SetEnvironmentVariableW(name.c_str(), value ? value->c_str() : nullptr);
 }
 
 } // namespace contract
