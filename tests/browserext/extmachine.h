@@ -2,6 +2,7 @@
 
 #include "platform/environment.h"
 #include "platform/filesystem.h"
+#include "platform/forwardingplatform.h"
 #include "platform/platform.h"
 #include "platform/processes.h"
 #include "platform/sandbox/sandboxplatform.h"
@@ -16,10 +17,11 @@
 
 // A sandbox machine, current while it lives, with a process list the test writes and folders it
 // can make undeletable (tests run as root, so permissions cannot do that).
-class ExtMachine final : public platform::Platform, public platform::Processes, public platform::FileSystem {
+class ExtMachine final : public platform::ForwardingPlatform, public platform::Processes, public platform::FileSystem {
 public:
     ExtMachine()
-        : m_sandbox(QDir(m_dir.path()).filePath(QStringLiteral("machine")).toStdWString())
+        : ForwardingPlatform(m_sandbox)
+        , m_sandbox(QDir(m_dir.path()).filePath(QStringLiteral("machine")).toStdWString())
     {
         platform::setCurrent(this);
     }
@@ -98,16 +100,8 @@ public:
         return m_sandbox.fileSystem().removeTree(path);
     }
 
-    platform::Registry& registry() override { return m_sandbox.registry(); }
-    platform::Environment& environment() override { return m_sandbox.environment(); }
-    platform::WindowFrame& windowFrame() override { return m_sandbox.windowFrame(); }
-    platform::SystemCounters& counters() override { return m_sandbox.counters(); }
     platform::FileSystem& fileSystem() override { return *this; }
-    platform::Launcher& launcher() override { return m_sandbox.launcher(); }
-    platform::IconExtractor& icons() override { return m_sandbox.icons(); }
     platform::Processes& processes() override { return *this; }
-    platform::PackageCatalogue& packages() override { return m_sandbox.packages(); }
-    std::wstring sandboxRoot() const override { return m_sandbox.sandboxRoot(); }
 
 private:
     QString env(const wchar_t* name) const
