@@ -327,10 +327,167 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>WinAppRow</name>
+    <message>
+        <source>移除</source>
+        <translation>Remove</translation>
+    </message>
+</context>
+<context>
     <name>WinAppsPage</name>
     <message>
-        <source>This page is not built yet.</source>
-        <translation type="unfinished"></translation>
+        <source>移除失败（可能需要管理员权限）</source>
+        <translation>Removal failed (may require administrator privileges)</translation>
+    </message>
+    <message>
+        <source>系统保护应用，已移除当前用户注册，但系统级组件可能在重启后自动恢复。
+若需彻底删除，请以管理员身份运行本程序。</source>
+        <translation>System-protected apps have been removed from the current user&apos;s registry, but system-level components may be automatically restored after reboot.
+To completely delete them, please run this program as an administrator.</translation>
+    </message>
+    <message>
+        <source>Windows 应用</source>
+        <translation>Windows Apps</translation>
+    </message>
+    <message>
+        <source>搜索应用...</source>
+        <translation>Searching for apps...</translation>
+    </message>
+    <message>
+        <source>↻ 刷新</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>发行者</source>
+        <translation>Publisher</translation>
+    </message>
+    <message>
+        <source>版本</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>安装日期</source>
+        <translation>Installation Date</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>正在移除应用...</source>
+        <translation>Removing application...</translation>
+    </message>
+    <message>
+        <source>请稍候...</source>
+        <translation>Please wait...</translation>
+    </message>
+    <message>
+        <source>正在扫描...</source>
+        <translation>Scanning...</translation>
+    </message>
+    <message>
+        <source>正在扫描 Windows 应用...</source>
+        <translation>Scanning Windows apps...</translation>
+    </message>
+    <message>
+        <source>正在扫描 Windows 应用... 已找到 %1 个</source>
+        <translation>Scanning Windows apps... %1 found</translation>
+    </message>
+    <message>
+        <source>显示 %1 / %2 个应用</source>
+        <translation>Display %1 / %2 applications</translation>
+    </message>
+    <message>
+        <source>共 %1 个应用</source>
+        <translation>Total %1 applications</translation>
+    </message>
+    <message>
+        <source>🗑  移除所选</source>
+        <translation>🗑 Remove selected</translation>
+    </message>
+    <message>
+        <source>🗑  移除所选 (%1)</source>
+        <translation>Remove selected (%1)</translation>
+    </message>
+    <message>
+        <source>已选择 %1 个应用</source>
+        <translation>%1 apps selected</translation>
+    </message>
+    <message>
+        <source>无法卸载 Microsoft Edge</source>
+        <translation>Unable to uninstall Microsoft Edge</translation>
+    </message>
+    <message>
+        <source>Microsoft Edge 是 Windows 系统组件，无法通过此方式卸载。
+
+如需更换默认浏览器，请前往
+「设置 → 应用 → 默认应用」进行设置。</source>
+        <translation>Microsoft Edge is a Windows system component and cannot be uninstalled this way.
+
+To change the default browser, please go to
+&quot;Settings -&gt; Apps -&gt; Default Apps&quot; to make the changes.</translation>
+    </message>
+    <message>
+        <source>移除应用</source>
+        <translation>Remove Application</translation>
+    </message>
+    <message>
+        <source>确定要移除 &quot;%1&quot;？</source>
+        <translation>Are you sure you want to remove &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>批量移除</source>
+        <translation>Batch Remove</translation>
+    </message>
+    <message>
+        <source>确定移除选中的 %1 个应用？
+此操作不可撤销。</source>
+        <translation>Are you sure you want to remove the selected %1 applications?
+This action cannot be undone.</translation>
+    </message>
+    <message>
+        <source>正在移除 %1 个应用...</source>
+        <translation>Removing %1 apps...</translation>
+    </message>
+    <message>
+        <source>%1 / %2 个应用</source>
+        <translation>%1 / %2 applications</translation>
+    </message>
+    <message>
+        <source>正在移除「%1」...（%2/%3）</source>
+        <translation>Removing &quot;%1&quot;... (%2/%3)</translation>
+    </message>
+    <message>
+        <source>• %1：%2</source>
+        <translation>• %1: %2</translation>
+    </message>
+    <message>
+        <source>✓ 已移除 %1 个应用，正在刷新...</source>
+        <translation>✓ %1 apps removed, refreshing...</translation>
+    </message>
+    <message>
+        <source>移除失败</source>
+        <translation>Removal failed</translation>
+    </message>
+    <message>
+        <source>所有应用移除失败。</source>
+        <translation>All apps removal failed.</translation>
+    </message>
+    <message>
+        <source>部分移除失败</source>
+        <translation>Partial removal failed</translation>
+    </message>
+    <message>
+        <source>成功 &lt;b&gt;%1&lt;/b&gt; 个，失败 &lt;b&gt;%2&lt;/b&gt; 个。</source>
+        <translation>Success &lt;b&gt;%1&lt;/b&gt;, failure &lt;b&gt;%2&lt;/b&gt;.</translation>
+    </message>
+    <message>
+        <source>失败详情：&lt;br&gt;%1&lt;br&gt;&lt;br&gt;系统预装应用（如 Edge、Photos）可能受保护，无法通过此方式移除。</source>
+        <translation>Failure details:&lt;br&gt;%1&lt;br&gt;&lt;br&gt;System pre-installed apps (such as Edge, Photos) may be protected and cannot be removed in this way.</translation>
     </message>
 </context>
 </TS>

@@ -322,9 +322,161 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>WinAppRow</name>
+    <message>
+        <source>移除</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>WinAppsPage</name>
     <message>
-        <source>This page is not built yet.</source>
+        <source>移除失败（可能需要管理员权限）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>系统保护应用，已移除当前用户注册，但系统级组件可能在重启后自动恢复。
+若需彻底删除，请以管理员身份运行本程序。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows 应用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>搜索应用...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>↻ 刷新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>发行者</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>版本</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>安装日期</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在移除应用...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请稍候...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在扫描...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在扫描 Windows 应用...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在扫描 Windows 应用... 已找到 %1 个</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示 %1 / %2 个应用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>共 %1 个应用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>🗑  移除所选</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>🗑  移除所选 (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已选择 %1 个应用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法卸载 Microsoft Edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Microsoft Edge 是 Windows 系统组件，无法通过此方式卸载。
+
+如需更换默认浏览器，请前往
+「设置 → 应用 → 默认应用」进行设置。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移除应用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定要移除 &quot;%1&quot;？</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>批量移除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定移除选中的 %1 个应用？
+此操作不可撤销。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在移除 %1 个应用...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 / %2 个应用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在移除「%1」...（%2/%3）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>• %1：%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✓ 已移除 %1 个应用，正在刷新...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移除失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>所有应用移除失败。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>部分移除失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>成功 &lt;b&gt;%1&lt;/b&gt; 个，失败 &lt;b&gt;%2&lt;/b&gt; 个。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>失败详情：&lt;br&gt;%1&lt;br&gt;&lt;br&gt;系统预装应用（如 Edge、Photos）可能受保护，无法通过此方式移除。</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -39,9 +39,16 @@ QStringList profilesOf(const QString& userData)
     return profiles;
 }
 
-platform::RemoveTreeResult removeTree(const QString& path)
+// Something is at `path`, a dangling link included.
+bool exists(const QString& path)
 {
-    return platform::current().fileSystem().removeTree(path.toStdWString());
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+platform::FileSystem& fileSystem()
+{
+    return platform::current().fileSystem();
 }
 
 // The new text is checked before it replaces the old: a browser must never find a broken file.
@@ -116,12 +123,15 @@ BrowserExtRemover::Result BrowserExtRemover::removeChromium(const BrowserExt& ex
     bool patched = false;
     for (const QString& profile : std::as_const(profiles)) {
         const QString folder = profile + QLatin1String("/Extensions/") + ext.id;
-        const platform::RemoveTreeResult removed = removeTree(folder);
-        if (removed.existed && removed.removed) {
-            found = true;
-            qDebug().noquote() << "[Remover] Deleted extension dir:" << folder;
-        } else if (removed.existed) {
-            errors.append(QStringLiteral("Cannot delete ") + folder);
+        if (exists(folder)) {
+            // A link in the folder's place is refused, never followed: it counts as not deleted.
+            const platform::EmptyFolderResult removed = fileSystem().removeFolder(folder.toStdWString());
+            if (removed.opened && removed.failed == 0 && !exists(folder)) {
+                found = true;
+                qDebug().noquote() << "[Remover] Deleted extension dir:" << folder;
+            } else {
+                errors.append(QStringLiteral("Cannot delete ") + folder);
+            }
         }
         for (const char* name : { "/Preferences", "/Secure Preferences" }) {
             const QString file = profile + QLatin1String(name);
@@ -219,11 +229,16 @@ BrowserExtRemover::Result BrowserExtRemover::removeFirefox(const BrowserExt& ext
                 }
             }
         }
-        const QString base = profile + QLatin1String("/extensions/") + ext.id;
-        if (removeTree(base).existed)
+        const QString folder = profile + QLatin1String("/extensions/") + ext.id;
+        if (exists(folder)) {
+            fileSystem().removeFolder(folder.toStdWString());
             found = true;
-        if (removeTree(base + QLatin1String(".xpi")).existed)
+        }
+        const QString package = folder + QLatin1String(".xpi");
+        if (exists(package)) {
+            fileSystem().removeFile(package.toStdWString());
             found = true;
+        }
     }
     if (found)
         return { true, QString() };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -15,12 +16,11 @@ struct EmptyFolderResult {
     std::uint32_t firstError = 0; // errno or Win32 error of the first failure, 0 if none
 };
 
-// What removing one entry did: the entry itself and, for a folder, everything it held.
-struct RemoveTreeResult {
-    bool existed = false; // something was at the path (a folder, a file or a link)
-    bool removed = false; // it was there and is gone now
-    std::uint64_t failed = 0; // entries below it that stayed
-    std::uint32_t firstError = 0; // errno or Win32 error of the first failure, 0 if none
+// What a walk with a file budget saw.
+struct FolderMeasure {
+    std::int64_t bytes = 0;
+    std::uint64_t files = 0; // regular files counted
+    bool complete = false; // false when the budget or the stop flag ended the walk early
 };
 
 // Metadata walks and link-safe deletion inside folders.
@@ -51,9 +51,22 @@ public:
     // made writable and deleted. A link, wherever it is met, is deleted as itself.
     virtual EmptyFolderResult emptyFolder(const std::wstring& folder) = 0;
 
-    // Deletes `path` itself: a folder with everything below it (as emptyFolder walks it), a file,
-    // or a link as a link. A path whose last component is "." or ".." is refused, never resolved.
-    virtual RemoveTreeResult removeTree(const std::wstring& path) = 0;
+    // folderSize with a budget: counts at most `maxFiles` files and gives up as soon as `stop`
+    // (when not null) reads true. A survey of hundreds of folders stays quick this way; its
+    // figures are lower bounds for folders larger than the budget.
+    virtual FolderMeasure measureFolder(
+        const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop)
+        = 0;
+
+    // Deletes `folder` itself with everything inside, by the rules of emptyFolder. The folder goes
+    // last and only when nothing inside stayed; `removed` counts it too. A link, a file or a
+    // drive root is not removed (opened is false).
+    virtual EmptyFolderResult removeFolder(const std::wstring& folder) = 0;
+
+    // Deletes one file, or a link as itself (never its target). True when nothing is left at
+    // `path`, so a file that is already gone counts as removed; false for a folder, for a path whose
+    // last component is "." or "..", and when the delete fails.
+    virtual bool removeFile(const std::wstring& path) = 0;
 };
 
 } // namespace platform

@@ -7,6 +7,7 @@
 #include <platform/uninstallcommandline.h>
 #include <platform/uninstallentries.h>
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
@@ -392,7 +393,16 @@ void UninstallManager::loadUsageData()
 
 QString UninstallManager::historyFilePath()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    // The sandbox's history belongs to the machine it stands for, in the Roaming folder where
+    // Windows keeps it, so a demo machine carries its own.
+    if (platform::Platform& p = platform::current(); p.isSandbox()) {
+        folder = fromWide(p.environment().roamingAppData());
+        for (const QString& part : { QCoreApplication::organizationName(), QCoreApplication::applicationName() }) {
+            if (!part.isEmpty())
+                folder += QLatin1Char('/') + part;
+        }
+    }
     QDir().mkpath(folder);
     return folder + QStringLiteral("/uninstall-history.json");
 }

@@ -93,12 +93,18 @@ public:
     {
         return m_sandbox.fileSystem().emptyFolder(folder);
     }
-    platform::RemoveTreeResult removeTree(const std::wstring& path) override
+    platform::FolderMeasure measureFolder(
+        const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop) override
     {
-        if (undeletable.contains(QString::fromStdWString(path)))
-            return { true, false, 1, 13 };
-        return m_sandbox.fileSystem().removeTree(path);
+        return m_sandbox.fileSystem().measureFolder(folder, maxFiles, stop);
     }
+    platform::EmptyFolderResult removeFolder(const std::wstring& folder) override
+    {
+        if (undeletable.contains(QString::fromStdWString(folder)))
+            return { true, 0, 1, 13 };
+        return m_sandbox.fileSystem().removeFolder(folder);
+    }
+    bool removeFile(const std::wstring& path) override { return m_sandbox.fileSystem().removeFile(path); }
 
     platform::FileSystem& fileSystem() override { return *this; }
     platform::Processes& processes() override { return *this; }

@@ -12,7 +12,10 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "residue/residuedialog.h"
 #include "shell/titlebar.h"
+#include "uninstall/uninstallmanager.h"
+#include "uninstall/uninstallpage.h"
 
 namespace {
 
@@ -66,6 +69,17 @@ int main(int argc, char* argv[])
             qWarning("could not save %s", qPrintable(file));
             ++failures;
         }
+    }
+
+    // The residue dialog over the programs page, scanning for the demo machine's uninstall history.
+    if (auto* page = window.findChild<UninstallPage*>()) {
+        window.navigateTo(MainWindow::Uninstall);
+        ResidueDialog dialog(page->manager()->history(), &window);
+        dialog.show();
+        wait(envInt("NORVALE_SHOT_RESIDUE_MS", 2500));
+        if (!dialog.grab().save(QStringLiteral("%1/2-uninstall-residue.png").arg(outDir)))
+            ++failures;
+        dialog.close();
     }
 
     // The cleanup page in full: its eleven rows and bottom bar are taller than the window.

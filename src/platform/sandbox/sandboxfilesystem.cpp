@@ -301,4 +301,95 @@ EmptyFolderResult SandboxFileSystem::emptyFolder(const std::wstring& folder)
     return result;
 }
 
+namespace {
+
+struct Budget {
+    std::uint64_t maxFiles;
+    const std::atomic<bool>* stop;
+    FolderMeasure measure;
+
+    bool exhausted() const { return measure.files >= maxFiles || (stop && stop->load(std::memory_order_relaxed)); }
+};
+
+// sizeBelow with a file budget; false once the budget ran out, which ends the whole walk.
+bool measureBelow(int dirFd, dev_t device, int depth, Budget& budget)
+{
+    std::vector<Entry> entries;
+    if (!readEntries(dirFd, entries))
+        return true; // unreadable: it holds nothing we can count, and the walk goes on
+    std::vector<const Entry*> folders;
+    for (const Entry& e : entries) {
+        if (budget.exhausted())
+            return false;
+        const unsigned char type = entryType(dirFd, e);
+        if (type == DT_DIR) {
+            folders.push_back(&e);
+        } else if (type == DT_REG) {
+            struct stat st;
+            if (::fstatat(dirFd, e.name.c_str(), &st, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(st.st_mode)) {
+                budget.measure.bytes += st.st_size;
+                ++budget.measure.files;
+            }
+        }
+    }
+    if (depth >= MaxDepth)
+        return true;
+    for (const Entry* e : folders) {
+        if (budget.exhausted())
+            return false;
+        UniqueFd fd(openSubfolder(dirFd, e->name.c_str()));
+        struct stat st;
+        if (!fd.isValid() || ::fstat(fd.get(), &st) != 0 || st.st_dev != device)
+            continue;
+        if (!measureBelow(fd.get(), device, depth + 1, budget))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+FolderMeasure SandboxFileSystem::measureFolder(
+    const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop)
+{
+    Budget budget { maxFiles, stop, {} };
+    UniqueFd fd(openFolder(folder));
+    struct stat st;
+    if (!fd.isValid() || ::fstat(fd.get(), &st) != 0)
+        return budget.measure;
+    budget.measure.complete = measureBelow(fd.get(), st.st_dev, 0, budget);
+    return budget.measure;
+}
+
+EmptyFolderResult SandboxFileSystem::removeFolder(const std::wstring& folder)
+{
+    EmptyFolderResult result;
+    std::wstring path = folder;
+    while (path.size() > 1 && path.back() == L'/')
+        path.pop_back();
+    const std::size_t slash = path.rfind(L'/');
+    if (slash == std::wstring::npos || slash + 1 >= path.size())
+        return result;
+    const std::string name = toUtf8(path.substr(slash + 1));
+    if (name == "." || name == "..")
+        return result;
+    // The parent is reached link-free below the root, so the root itself is never a candidate.
+    UniqueFd parent(openFolder(slash == 0 ? std::wstring(L"/") : path.substr(0, slash)));
+    if (!parent.isValid())
+        return result;
+    UniqueFd fd(openSubfolder(parent.get(), name.c_str()));
+    struct stat st;
+    if (!fd.isValid() || ::fstat(fd.get(), &st) != 0)
+        return result;
+    struct stat parentStat;
+    if (::fstat(parent.get(), &parentStat) != 0 || parentStat.st_dev != st.st_dev)
+        return result; // a mount point is not ours to remove
+    result.opened = true;
+    emptyBelow(fd.get(), st.st_dev, 0, result);
+    fd.reset();
+    if (result.failed == 0)
+        unlinkEntry(parent.get(), name.c_str(), AT_REMOVEDIR, result);
+    return result;
+}
+
 } // namespace platform

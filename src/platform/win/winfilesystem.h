@@ -17,7 +17,11 @@ public:
     std::optional<std::vector<std::wstring>> subFolders(const std::wstring& folder) override;
     std::int64_t folderSize(const std::wstring& folder) override;
     EmptyFolderResult emptyFolder(const std::wstring& folder) override;
-    RemoveTreeResult removeTree(const std::wstring& path) override; // filesystemremove.cpp
+    // These two live in winfilesystemextra.cpp.
+    FolderMeasure measureFolder(
+        const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop) override;
+    EmptyFolderResult removeFolder(const std::wstring& folder) override;
+    bool removeFile(const std::wstring& path) override; // filesystemremove.cpp
 };
 
 } // namespace platform

@@ -1,0 +1,207 @@
+#include <residue/residuedialog.h>
+#include <residue/residuerowwidget.h>
+#include <residue/residuescanner.h>
+
+#include <platform/platform.h>
+#include <platform/sandbox/sandboxplatform.h>
+
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+constexpr qint64 KiB = 1024;
+constexpr qint64 MiB = 1024 * KiB;
+constexpr qint64 GiB = 1024 * MiB;
+
+void blob(const QString& path, qint64 bytes)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    QVERIFY(f.resize(bytes));
+}
+
+QString text(const QWidget& dialog, const char* name)
+{
+    const auto* label = dialog.findChild<QLabel*>(QString::fromLatin1(name));
+    return label ? label->text() : QStringLiteral("<missing %1>").arg(QLatin1String(name));
+}
+
+// The worker may have sent the signal before the wait begins.
+bool signalled(QSignalSpy& spy, int timeoutMs)
+{
+    return !spy.isEmpty() || spy.wait(timeoutMs);
+}
+
+} // namespace
+
+class tst_ResidueDialog : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<platform::SandboxPlatform> m_platform;
+
+    QString roaming() const { return m_dir->path() + "/sandbox/C/Users/User/AppData/Roaming"; }
+
+private slots:
+    void init()
+    {
+        platform::setCurrent(nullptr);
+        m_platform.reset();
+        m_dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkpath(m_dir->path() + "/sandbox/C"));
+        m_platform = std::make_unique<platform::SandboxPlatform>((m_dir->path() + "/sandbox").toStdWString());
+        platform::setCurrent(m_platform.get());
+    }
+    void cleanupTestCase() { platform::setCurrent(nullptr); }
+
+    void texts_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<QString>("size");
+        QTest::addColumn<QString>("colour");
+        QTest::newRow("zero") << qint64(0) << "0 B"
+                              << "#64748b";
+        QTest::newRow("bytes") << qint64(1023) << "1023 B"
+                               << "#64748b";
+        QTest::newRow("one KiB") << KiB << "1 KB"
+                                 << "#64748b";
+        QTest::newRow("KiB rounded") << qint64(1536) << "2 KB"
+                                     << "#64748b";
+        QTest::newRow("just below a MiB") << MiB - 1 << "1024 KB"
+                                          << "#64748b";
+        QTest::newRow("10 MiB stays grey") << 10 * MiB << "10 MB"
+                                           << "#64748b";
+        QTest::newRow("above 10 MiB is amber") << 10 * MiB + 1 << "10 MB"
+                                               << "#f59e0b";
+        QTest::newRow("100 MiB stays amber") << 100 * MiB << "100 MB"
+                                             << "#f59e0b";
+        QTest::newRow("above 100 MiB is red") << 100 * MiB + 1 << "100 MB"
+                                              << "#ef4444";
+        QTest::newRow("GiB with a decimal") << GiB + GiB / 2 << "1.5 GB"
+                                            << "#ef4444";
+    }
+    void texts()
+    {
+        QFETCH(qint64, bytes);
+        QTEST(ResidueDialog::formatSize(bytes), "size");
+        QTEST(ResidueRowWidget::sizeColor(bytes), "colour");
+    }
+
+    void shortenPath_data()
+    {
+        QTest::addColumn<int>("length");
+        QTest::addColumn<QString>("shown");
+        const QString digits = QString("0123456789").repeated(6);
+        QTest::newRow("55 kept") << 55 << digits.left(55);
+        QTest::newRow("56 cut to its end") << 56 << "..." + digits.left(56).right(52);
+    }
+    void shortenPath()
+    {
+        QFETCH(int, length);
+        QTEST(ResidueDialog::shortenPath(QString("0123456789").repeated(6).left(length)), "shown");
+    }
+
+    void emptyResult()
+    {
+        ResidueDialog dialog(QList<UninstalledApp> {}, nullptr);
+        QCOMPARE(text(dialog, "ResidueStatus"), QString("Initializing..."));
+        QSignalSpy finished(dialog.scanner(), &ResidueScanner::scanFinished);
+        dialog.show();
+        QVERIFY(signalled(finished, 5000));
+        QTRY_COMPARE(text(dialog, "ResidueSummary"), QString("No residue files found"));
+        QVERIFY(dialog.findChild<QLabel*>("ResidueEmpty")->isVisible());
+        QVERIFY(!dialog.findChild<QPushButton*>("ResidueCleanButton")->isEnabled());
+        QCOMPARE(dialog.size(), QSize(680, 560));
+    }
+
+    void cleanFlow()
+    {
+        blob(roaming() + "/Spotify/a", 6 * MiB);
+        blob(roaming() + "/Slack/a", 1 * MiB);
+        ResidueDialog dialog(QList<InstalledApp> {}, nullptr);
+        QSignalSpy finished(dialog.scanner(), &ResidueScanner::scanFinished);
+        dialog.show();
+        QVERIFY(signalled(finished, 5000));
+        QTRY_COMPARE(dialog.rows().size(), 2);
+        QCOMPARE(text(dialog, "ResidueSummary"), QString("Found <b>2</b> items  ·  <b>7 MB</b> reclaimable"));
+        // The large one is ticked for the user, the small one is not.
+        QVERIFY(dialog.rows().at(0)->isChecked());
+        QVERIFY(!dialog.rows().at(1)->isChecked());
+        QCOMPARE(dialog.rows().at(1)->findChild<QLabel*>("ResidueSafetyBadge")->text(), QString("Safe"));
+
+        auto* clean = dialog.findChild<QPushButton*>("ResidueCleanButton");
+        auto* deselect = dialog.findChildren<QPushButton*>("BtnGhost").at(1);
+        QCOMPARE(deselect->text(), QString("Deselect All"));
+        QTest::mouseClick(deselect, Qt::LeftButton);
+        QTest::mouseClick(clean, Qt::LeftButton); // nothing ticked: nothing happens
+        QVERIFY(!dialog.scanner()->isRunning());
+        QVERIFY(clean->isEnabled());
+
+        QSignalSpy cleaned(dialog.scanner(), &ResidueScanner::cleanFinished);
+        dialog.rows().at(0)->setChecked(true);
+        QTest::mouseClick(clean, Qt::LeftButton);
+        QVERIFY(signalled(cleaned, 5000));
+        QTRY_COMPARE(text(dialog, "ResidueStatus"), QString("✅  Cleaned — freed 6 MB"));
+        QVERIFY(!QFileInfo::exists(roaming() + "/Spotify"));
+        QVERIFY(QFileInfo::exists(roaming() + "/Slack/a"));
+        QCOMPARE(clean->text(), QString("Done ✓"));
+        QTest::mouseClick(clean, Qt::LeftButton);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    }
+
+    void installFolderNeedsConfirmation()
+    {
+        blob(m_dir->path() + "/sandbox/C/Program Files/Paint/a.dll", 2 * MiB);
+        UninstalledApp app;
+        app.name = "Paint";
+        app.installLocation = "C:\\Program Files\\Paint";
+        ResidueDialog dialog(QList<UninstalledApp> { app }, nullptr);
+        QSignalSpy finished(dialog.scanner(), &ResidueScanner::scanFinished);
+        dialog.show();
+        QVERIFY(signalled(finished, 5000));
+        QTRY_COMPARE(dialog.rows().size(), 1);
+        QVERIFY(!dialog.rows().at(0)->isChecked());
+        QCOMPARE(dialog.rows().at(0)->findChild<QLabel*>("ResidueSafetyBadge")->text(), QString("Confirm"));
+        QCOMPARE(dialog.rows().at(0)->findChild<QLabel*>("ResidueCategoryBadge")->text(), QString("Orphaned App Data"));
+    }
+
+    // Closing or destroying the dialog mid-scan stops the worker; nothing reaches the dialog later.
+    void closingDuringAScan()
+    {
+        for (int i = 0; i < 300; ++i)
+            blob(roaming() + QString("/Orphan%1/a").arg(i), 600 * KiB);
+        for (bool destroy : { false, true }) {
+            QPointer<ResidueDialog> dialog = new ResidueDialog(QList<InstalledApp> {}, nullptr);
+            QSignalSpy progress(dialog->scanner(), &ResidueScanner::scanProgress);
+            QSignalSpy finished(dialog->scanner(), &ResidueScanner::scanFinished);
+            dialog->show();
+            QVERIFY(signalled(progress, 5000));
+            const bool finishedBeforeClose = !finished.isEmpty();
+            if (destroy) {
+                delete dialog;
+                QTest::qWait(100);
+                continue;
+            }
+            dialog->reject();
+            QTRY_VERIFY_WITH_TIMEOUT(!dialog->scanner()->isRunning(), 5000);
+            QTest::qWait(50);
+            QVERIFY(!dialog->isVisible());
+            if (!finishedBeforeClose)
+                QVERIFY(dialog->rows().isEmpty());
+            delete dialog;
+        }
+    }
+};
+
+QTEST_MAIN(tst_ResidueDialog)
+#include "tst_residuedialog.moc"

@@ -1,0 +1,366 @@
+#include <residue/residuescanner.h>
+
+#include <platform/environment.h>
+#include <platform/platform.h>
+#include <platform/sandbox/sandboxplatform.h>
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+constexpr qint64 KiB = 1024;
+constexpr qint64 MiB = 1024 * KiB;
+
+// A sparse file of the given size: the scan reads sizes, never contents.
+void blob(const QString& path, qint64 bytes)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile f(path);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    QVERIFY(f.resize(bytes));
+}
+
+UninstalledApp uninstalled(const QString& name, const QString& publisher, const QString& location = QString())
+{
+    UninstalledApp app;
+    app.name = name;
+    app.publisher = publisher;
+    app.installLocation = location;
+    return app;
+}
+
+// The worker may have sent the signal before the wait begins.
+bool signalled(QSignalSpy& spy, int timeoutMs)
+{
+    return !spy.isEmpty() || spy.wait(timeoutMs);
+}
+
+} // namespace
+
+class tst_ResidueScanner : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<platform::SandboxPlatform> m_platform;
+
+    QString drive() const { return m_dir->path() + QStringLiteral("/sandbox/C"); }
+    QString roaming() const { return drive() + QStringLiteral("/Users/User/AppData/Roaming"); }
+    QString local() const { return drive() + QStringLiteral("/Users/User/AppData/Local"); }
+    QString programData() const { return drive() + QStringLiteral("/ProgramData"); }
+
+    QList<ResidueItem> runScan(ResidueScanner& scanner, const std::function<void()>& start)
+    {
+        QSignalSpy finished(&scanner, &ResidueScanner::scanFinished);
+        start();
+        if (!signalled(finished, 10000))
+            return {};
+        return scanner.results();
+    }
+
+    static const ResidueItem* find(const QList<ResidueItem>& items, const QString& path)
+    {
+        for (const ResidueItem& item : items) {
+            if (item.path == path)
+                return &item;
+        }
+        return nullptr;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        // As the program runs: an organisation folder in the application-data path must not move
+        // the scan away from the Roaming folder itself.
+        QCoreApplication::setOrganizationName("Brightfen");
+        QCoreApplication::setApplicationName("Norvale");
+    }
+    void init()
+    {
+        platform::setCurrent(nullptr);
+        m_platform.reset();
+        m_dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkpath(m_dir->path() + QStringLiteral("/sandbox/C")));
+        m_platform = std::make_unique<platform::SandboxPlatform>((m_dir->path() + "/sandbox").toStdWString());
+        platform::setCurrent(m_platform.get());
+    }
+    void cleanupTestCase() { platform::setCurrent(nullptr); }
+
+    void knownProgram_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("installed");
+        QTest::addColumn<bool>("known");
+        QTest::newRow("folder named like a long first word") << "Audacity"
+                                                             << "Audacity 3.4.2" << true;
+        QTest::newRow("folder holding a long first word") << "GimpData"
+                                                          << "GIMP 2.10" << true;
+        QTest::newRow("folder inside a long first word") << "Inksc"
+                                                         << "Inkscape 1.3" << true;
+        QTest::newRow("first word of three letters is too short") << "vlc-old"
+                                                                  << "VLC media player" << false;
+        QTest::newRow("four letters inside a longer name") << "Tool"
+                                                           << "Sketch Tool Suite" << false;
+        QTest::newRow("five letters inside a longer name") << "Tools"
+                                                           << "Sketch Tools Suite" << true;
+        QTest::newRow("whole name, other case, spaces") << " vlc MEDIA player "
+                                                        << "VLC media player" << true;
+        QTest::newRow("generic name") << "Temp"
+                                      << "" << true;
+        QTest::newRow("generic names are equal, not contained") << "TempestApp"
+                                                                << "" << false;
+        QTest::newRow("protected name inside") << "MyGoogleSync"
+                                               << "" << true;
+        QTest::newRow("protected vendor") << "NVIDIA Corporation"
+                                          << "" << true;
+        QTest::newRow("nothing installed") << "Spotify"
+                                           << "" << false;
+    }
+    void knownProgram()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, installed);
+        QTEST(ResidueScanner::isKnownProgram(folder, { installed, QString() }), "known");
+    }
+
+    // Where a folder sits, its size, and whether it is listed and ticked.
+    void thresholds_data()
+    {
+        QTest::addColumn<QString>("where");
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<bool>("listed");
+        QTest::addColumn<bool>("checked");
+        QTest::addColumn<int>("category");
+        const auto row = [](const char* what, const char* where, qint64 bytes, bool listed, bool checked,
+                             int category) { QTest::newRow(what) << where << bytes << listed << checked << category; };
+        row("orphan below 512 KiB", "Roaming/Orphan", 512 * KiB - 1, false, false, 0);
+        row("orphan at 512 KiB", "Roaming/Orphan", 512 * KiB, true, false, 0);
+        row("orphan at 5 MiB", "Local/Orphan", 5 * MiB, true, false, 0);
+        row("orphan above 5 MiB", "Local/Orphan", 5 * MiB + 1, true, true, 0);
+        row("cache of 900 KiB", "Roaming/Inkscape/cache", 900 * KiB, false, false, 1);
+        row("cache at 1 MiB", "Roaming/Inkscape/cache", 1 * MiB, true, false, 1);
+        row("cache at 10 MiB", "Local/Inkscape/GPUCache", 10 * MiB, true, false, 1);
+        row("cache above 10 MiB", "Local/Inkscape/Code Cache", 10 * MiB + 1, true, true, 1);
+        row("logs", "Local/Inkscape/Logs", 2 * MiB, true, false, 2);
+        row("crash dumps", "Local/Inkscape/CrashDumps", 2 * MiB, true, false, 3);
+        row("cache of a protected vendor", "Local/NVIDIA Corporation/GLCache", 20 * MiB, false, false, 1);
+        row("temp below 10 MiB", "Local/Temp", 10 * MiB - 1, false, false, 4);
+        row("temp at 10 MiB", "Local/Temp", 10 * MiB, true, false, 4);
+        row("windows temp above 10 MiB", "Windows/Temp", 10 * MiB + 1, true, true, 4);
+        row("ProgramData orphan", "ProgramData/OldVendor", 1 * MiB, true, false, 0);
+        row("ProgramData skip name inside", "ProgramData/Docker Desktop", 9 * MiB, false, false, 0);
+        row("ProgramData skip name", "ProgramData/Package Cache", 9 * MiB, false, false, 0);
+        row("skip names only apply to ProgramData", "Roaming/Docker Desktop", 9 * MiB, true, true, 0);
+    }
+    void thresholds()
+    {
+        QFETCH(QString, where);
+        QFETCH(qint64, bytes);
+        QFETCH(int, category);
+        const QString base = where.startsWith("Roaming") || where.startsWith("Local")
+            ? drive() + "/Users/User/AppData/" + where
+            : drive() + "/" + where;
+        blob(base + "/data.bin", bytes);
+        ResidueScanner scanner;
+        scanner.setInstalledApps({ "Inkscape 1.3.2" }, { "Inkscape Project" });
+        const QList<ResidueItem> items = runScan(scanner, [&] { scanner.scan(); });
+        const ResidueItem* item = find(items, base);
+        QTEST(item != nullptr, "listed");
+        if (!item)
+            return;
+        QCOMPARE(item->size, bytes);
+        QCOMPARE(item->category, category);
+        QVERIFY(item->safe);
+        QTEST(item->checked, "checked");
+    }
+
+    void globalScanOrderAndProgress()
+    {
+        blob(roaming() + "/Small/a", 1 * MiB);
+        blob(local() + "/Large/a", 8 * MiB);
+        blob(programData() + "/Middle/a", 3 * MiB);
+        ResidueScanner scanner;
+        QSignalSpy progress(&scanner, &ResidueScanner::scanProgress);
+        QSignalSpy finished(&scanner, &ResidueScanner::scanFinished);
+        scanner.scan();
+        QVERIFY(signalled(finished, 10000));
+        QCOMPARE(finished.at(0).at(0).toLongLong(), 12 * MiB);
+        QList<int> percents;
+        for (const auto& args : progress)
+            percents << args.at(0).toInt();
+        QCOMPARE(percents, QList<int>({ 5, 20, 40, 55, 70, 88, 100 }));
+        QCOMPARE(progress.at(1).at(1).toString(), QString("Scanning AppData/Local..."));
+        const QList<ResidueItem> items = scanner.results();
+        QCOMPARE(items.size(), 3);
+        QCOMPARE(items.at(0).name, QString("Large"));
+        QCOMPARE(items.at(1).name, QString("Middle"));
+        QCOMPARE(items.at(2).name, QString("Small"));
+    }
+
+    void searchTerms_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("publisher");
+        QTest::addColumn<QStringList>("terms");
+        QTest::newRow("empty publisher") << "Paint Studio"
+                                         << "" << QStringList { "Paint Studio", "PaintStudio" };
+        QTest::newRow("publisher's first word")
+            << "Figma Desktop"
+            << "Figma, Inc." << QStringList { "Figma Desktop", "Figma,", "FigmaDesktop" };
+        QTest::newRow("leading space: the first word is empty") << "Zed"
+                                                                << " Acme" << QStringList { "Zed" };
+        QTest::newRow("short publisher word, short name") << "Zed"
+                                                          << "Ab Corp" << QStringList { "Zed" };
+        QTest::newRow("repeated term taken once") << "Acme"
+                                                  << "Acme Corp" << QStringList { "Acme" };
+        QTest::newRow("shared vendor folder") << "Teams"
+                                              << "Microsoft Corporation" << QStringList { "Teams" };
+        QTest::newRow("dot-dot") << ".."
+                                 << "" << QStringList {};
+        QTest::newRow("dots and spaces name the root on Windows") << ". . ."
+                                                                  << "" << QStringList {};
+        QTest::newRow("backslash path") << "..\\..\\Windows"
+                                        << "" << QStringList {};
+        QTest::newRow("slash path") << "Tool/../../x"
+                                    << "" << QStringList {};
+        QTest::newRow("drive") << "C:"
+                               << "" << QStringList {};
+        QTest::newRow("blank") << "   "
+                               << "   " << QStringList {};
+        QTest::newRow("control character") << QString("Tool") + QChar(0) << "" << QStringList {};
+        QTest::newRow("generic name") << "Temp"
+                                      << "" << QStringList {};
+    }
+    void searchTerms()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, publisher);
+        QTEST(ResidueScanner::searchTerms(uninstalled(name, publisher)), "terms");
+    }
+
+    void scanForAppsFindsLeftoversButNeverARoot()
+    {
+        blob(roaming() + "/Figma Desktop/Cache/f1", 2 * MiB);
+        blob(local() + "/FigmaDesktop/app.log", 1 * KiB);
+        QVERIFY(QDir().mkpath(programData() + "/Figma Desktop")); // empty: not a residue
+        blob(drive() + "/Program Files/Paint Studio/plugins/f.dll", 3 * MiB);
+        blob(local() + "/Temp/x.tmp", 4 * MiB);
+        blob(roaming() + "/Precious/keep.doc", 1 * MiB);
+        const QList<UninstalledApp> history = {
+            uninstalled("Figma Desktop", ""),
+            uninstalled("Paint Studio", "", "C:\\Program Files\\Paint Studio\\"),
+            uninstalled("Profile", "", "C:\\Users\\User"),
+            uninstalled("Drive", "", "C:\\"),
+            uninstalled("Program Files", "", "C:/Program Files"),
+            uninstalled("Climber", "", "C:\\Users\\User\\AppData\\Roaming\\Precious\\.."),
+            uninstalled("Local", "", "C:\\Users\\User\\AppData\\Local\\Temp"),
+        };
+        ResidueScanner scanner;
+        QSignalSpy progress(&scanner, &ResidueScanner::scanProgress);
+        const QList<ResidueItem> items = runScan(scanner, [&] { scanner.scanForApps(history); });
+        QCOMPARE(items.size(), 3);
+        QCOMPARE(items.at(0).path, drive() + "/Program Files/Paint Studio");
+        QCOMPARE(items.at(0).name, QString("Paint Studio (Install Dir)"));
+        QVERIFY(!items.at(0).checked && !items.at(0).safe);
+        QCOMPARE(items.at(1).path, roaming() + "/Figma Desktop");
+        QVERIFY(items.at(1).checked && items.at(1).safe);
+        QCOMPARE(items.at(2).path, local() + "/FigmaDesktop");
+        QCOMPARE(items.at(2).name, QString("Figma Desktop"));
+        QCOMPARE(progress.at(1).at(0).toInt(), 5 + 85 / 7);
+        QCOMPARE(progress.at(1).at(1).toString(), QString("Scanning: Paint Studio..."));
+        QCOMPARE(progress.last().at(0).toInt(), 100);
+    }
+
+    void allowedTargets_data()
+    {
+        QTest::addColumn<QString>("relative"); // below the sandbox's C folder; "" is the drive root
+        QTest::addColumn<int>("category");
+        QTest::addColumn<bool>("allowed");
+        QTest::newRow("a program's folder") << "/Users/User/AppData/Roaming/App" << 0 << true;
+        QTest::newRow("drive root") << "" << 0 << false;
+        QTest::newRow("home") << "/Users/User" << 0 << false;
+        QTest::newRow("above home") << "/Users" << 0 << false;
+        QTest::newRow("Roaming, other case") << "/users/user/appdata/ROAMING" << 0 << false;
+        QTest::newRow("AppData") << "/Users/User/AppData" << 0 << false;
+        QTest::newRow("ProgramData") << "/ProgramData/" << 0 << false;
+        QTest::newRow("Program Files") << "/Program Files" << 0 << false;
+        QTest::newRow("climbing back to Local") << "/Users/User/AppData/Local/App/.." << 0 << false;
+        QTest::newRow("temp folder emptied") << "/Users/User/AppData/Local/Temp" << 4 << true;
+        QTest::newRow("temp folder removed whole") << "/Users/User/AppData/Local/Temp" << 0 << false;
+        QTest::newRow("Windows holds its temp") << "/Windows" << 4 << false;
+        QTest::newRow("inside temp") << "/Windows/Temp/setup" << 0 << true;
+    }
+    void allowedTargets()
+    {
+        QFETCH(QString, relative);
+        QFETCH(int, category);
+        ResidueScanner scanner;
+        QTEST(ResidueScanner::isAllowedTarget(drive() + relative, category, scanner.roots()), "allowed");
+        QVERIFY(!ResidueScanner::isAllowedTarget("\\\\server\\share\\App", 0, scanner.roots()));
+        QVERIFY(!ResidueScanner::isAllowedTarget("Relative/App", 0, scanner.roots()));
+    }
+
+    // A link inside a residue counts nothing and its target survives the clean; a loop back to
+    // the folder itself does not trap the walk.
+    void linksInsideResidue_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("folderStays");
+        QTest::newRow("orphan removed whole") << "Users/User/AppData/Roaming/Orphan" << false;
+        QTest::newRow("cache emptied") << "Users/User/AppData/Roaming/Inkscape/cache" << true;
+    }
+    void linksInsideResidue()
+    {
+        QFETCH(QString, folder);
+        QFETCH(bool, folderStays);
+        const QString path = drive() + "/" + folder;
+        blob(path + "/data.bin", 2 * MiB);
+        blob(m_dir->path() + "/outside/precious.doc", 7 * MiB);
+        QVERIFY(QFile::link(m_dir->path() + "/outside", path + "/link"));
+        QVERIFY(QFile::link(path, path + "/loop"));
+
+        ResidueScanner scanner;
+        scanner.setInstalledApps({ "Inkscape" }, {});
+        const QList<ResidueItem> items = runScan(scanner, [&] { scanner.scan(); });
+        const ResidueItem* item = find(items, path);
+        QVERIFY(item);
+        QCOMPARE(item->size, 2 * MiB);
+
+        QSignalSpy progress(&scanner, &ResidueScanner::cleanProgress);
+        QSignalSpy cleaned(&scanner, &ResidueScanner::cleanFinished);
+        scanner.clean({ int(item - items.constData()), 99 });
+        QVERIFY(signalled(cleaned, 10000));
+        QCOMPARE(cleaned.at(0).at(0).toLongLong(), 2 * MiB);
+        QCOMPARE(progress.size(), 2);
+        QCOMPARE(progress.at(0).at(0).toInt(), 50);
+        QCOMPARE(progress.at(1).at(0).toInt(), 100);
+        QCOMPARE(QFileInfo(m_dir->path() + "/outside/precious.doc").size(), 7 * MiB);
+        QCOMPARE(QFileInfo::exists(path), folderStays);
+        if (folderStays)
+            QVERIFY(QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot));
+    }
+
+    void stopEndsTheScanWithoutResults()
+    {
+        for (int i = 0; i < 200; ++i)
+            blob(roaming() + QString("/Orphan%1/a").arg(i), 1 * MiB);
+        ResidueScanner scanner;
+        QSignalSpy finished(&scanner, &ResidueScanner::scanFinished);
+        scanner.scan();
+        scanner.stopScan();
+        QTRY_VERIFY_WITH_TIMEOUT(!scanner.isRunning(), 5000);
+        QTest::qWait(50);
+        QVERIFY(finished.isEmpty());
+        // The next scan starts afresh.
+        scanner.scan();
+        QVERIFY(signalled(finished, 10000));
+        QCOMPARE(scanner.results().size(), 200);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_ResidueScanner)
+#include "tst_residuescanner.moc"

@@ -1,0 +1,302 @@
+#include <uninstall/uninstallmanager.h>
+#include <uninstall/uninstallpage.h>
+#include <uninstall/uninstallrowwidget.h>
+
+#include <platform/platform.h>
+#include <platform/registry.h>
+#include <platform/sandbox/sandboxplatform.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+constexpr qint64 MiB = 1024 * 1024;
+
+InstalledApp app(const QString& name, const QString& publisher, qint64 size, const QString& date,
+    const QString& status = QStringLiteral("ok"), const QString& uninstall = QStringLiteral("u.exe"))
+{
+    InstalledApp a;
+    a.name = name;
+    a.publisher = publisher;
+    a.estimatedSize = size;
+    a.installDate = date;
+    a.status = status;
+    a.uninstallString = uninstall;
+    return a;
+}
+
+QStringList names(const QList<InstalledApp>& apps)
+{
+    QStringList list;
+    for (const InstalledApp& a : apps)
+        list << a.name;
+    return list;
+}
+
+QStringList visibleNames(const UninstallPage& page)
+{
+    QStringList list;
+    for (const UninstallRowWidget* row : page.rows()) {
+        if (row->isVisibleTo(&page))
+            list << row->app().name;
+    }
+    return list;
+}
+
+// Each modal window that opens in turn is handed to the next step, which closes it; the titles (or
+// object names of plain dialogs) are recorded.
+class ModalScript : public QObject {
+public:
+    using Step = std::function<void(QWidget*)>;
+    explicit ModalScript(QList<Step> steps)
+        : m_steps(std::move(steps))
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (!modal || modal == m_last || m_steps.isEmpty())
+                return;
+            m_last = modal;
+            seen << (modal->objectName().isEmpty() ? modal->windowTitle() : modal->objectName());
+            m_steps.takeFirst()(modal);
+        });
+        m_timer.start(20);
+    }
+    QStringList seen;
+
+private:
+    QList<Step> m_steps;
+    QTimer m_timer;
+    QPointer<QWidget> m_last;
+};
+
+ModalScript::Step press(const QString& buttonText)
+{
+    return [buttonText](QWidget* modal) {
+        for (QPushButton* b : modal->findChildren<QPushButton*>()) {
+            if (b->text().remove(QLatin1Char('&')) == buttonText) {
+                b->click();
+                return;
+            }
+        }
+        static_cast<QDialog*>(modal)->reject();
+    };
+}
+
+} // namespace
+
+class tst_UninstallPage : public QObject {
+    Q_OBJECT
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<platform::SandboxPlatform> m_platform;
+
+private slots:
+    void init()
+    {
+        platform::setCurrent(nullptr);
+        m_platform.reset();
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_platform = std::make_unique<platform::SandboxPlatform>(m_dir->path().toStdWString());
+        platform::setCurrent(m_platform.get());
+    }
+    void cleanupTestCase() { platform::setCurrent(nullptr); }
+
+    void rowLooks_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<QString>("colour");
+        QTest::newRow("100 MiB is quiet") << 100 * MiB << "#94a3b8";
+        QTest::newRow("one byte more is amber") << 100 * MiB + 1 << "#f59e0b";
+        QTest::newRow("500 MiB is amber") << 500 * MiB << "#f59e0b";
+        QTest::newRow("one byte more is red") << 500 * MiB + 1 << "#ef4444";
+    }
+    void rowLooks()
+    {
+        QFETCH(qint64, bytes);
+        QTEST(UninstallRowWidget::sizeColor(bytes), "colour");
+        QCOMPARE(UninstallRowWidget::removeKind("nouninstaller"), QString("amber"));
+        QCOMPARE(UninstallRowWidget::removeKind("old"), QString("red"));
+        QCOMPARE(UninstallRowWidget::removeKind("system"), QString("quiet"));
+    }
+
+    void filterAndSearch_data()
+    {
+        QTest::addColumn<bool>("unusedChip");
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<QStringList>("shown");
+        QTest::newRow("all") << false << "" << QStringList { "GIMP", "Steam", "Inkscape", "Gitter" };
+        QTest::newRow("unused only") << true << "" << QStringList { "GIMP", "Gitter" };
+        QTest::newRow("unused narrowed by search") << true << "gi" << QStringList { "GIMP", "Gitter" };
+        QTest::newRow("unused narrowed further") << true << "MP" << QStringList { "GIMP" };
+        QTest::newRow("search matches the publisher, any case") << false << "VALVE" << QStringList { "Steam" };
+        QTest::newRow("nothing matches") << true << "steam" << QStringList {};
+    }
+    void filterAndSearch()
+    {
+        QFETCH(bool, unusedChip);
+        QFETCH(QString, search);
+        UninstallPage page;
+        page.showApps({ app("GIMP", "The GIMP Team", 40, "", "old"), app("Steam", "Valve", 30, ""),
+            app("Inkscape", "Inkscape Project", 20, ""), app("Gitter", "Gitter Ltd", 10, "", "old") });
+        auto chips = page.findChildren<QPushButton*>("ChipButton");
+        QCOMPARE(chips.size(), 2);
+        QTest::mouseClick(chips.at(unusedChip ? 1 : 0), Qt::LeftButton);
+        QTest::keyClicks(page.findChild<QLineEdit*>("SearchBox"), search);
+        QTEST(visibleNames(page), "shown");
+        QCOMPARE(chips.at(1)->property("active").toString(), QString(unusedChip ? "true" : "false"));
+        QCOMPARE(chips.at(0)->property("active").toString(), QString(unusedChip ? "false" : "true"));
+        QCOMPARE(page.findChild<QLabel*>("UnusedCount")->text(), QString("2"));
+        QCOMPARE(page.findChild<QLabel*>("AppsCount")->text(), QString("4"));
+    }
+
+    void sorting_data()
+    {
+        QTest::addColumn<QList<int>>("choices"); // sort box indices, in the order chosen
+        QTest::addColumn<QStringList>("order");
+        QTest::newRow("by size, ties keep the list's order")
+            << QList<int> { 0 } << QStringList { "C", "beta", "Alpha", "Beta" };
+        QTest::newRow("by date, newest first, no date last")
+            << QList<int> { 1 } << QStringList { "beta", "Beta", "C", "Alpha" };
+        QTest::newRow("by name, capitals first") << QList<int> { 2 } << QStringList { "Alpha", "Beta", "C", "beta" };
+        QTest::newRow("by size after by name keeps name order among ties")
+            << QList<int> { 2, 0 } << QStringList { "C", "Alpha", "Beta", "beta" };
+    }
+    void sorting()
+    {
+        QFETCH(QList<int>, choices);
+        UninstallPage page;
+        page.showApps({ app("beta", "", 10, "2024-01-01"), app("Alpha", "", 10, ""), app("C", "", 20, "2023-05-05"),
+            app("Beta", "", 10, "2024-01-01") });
+        auto* sortBox = page.findChild<QComboBox*>("SortBox");
+        for (int index : choices)
+            sortBox->setCurrentIndex(index); // the first list is already by size
+        QTEST(names(page.listedApps()), "order");
+        QCOMPARE(visibleNames(page), names(page.listedApps()));
+    }
+
+    void bottomBarFollowsTheSelection()
+    {
+        UninstallPage page;
+        page.resize(900, 600);
+        page.showApps({ app("A", "", 2 * MiB, ""), app("B", "", 3 * MiB, ""), app("C", "", 0, "") });
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        auto* stat = page.findChild<QLabel*>("BarStatLabel");
+        auto* uninstallSelected = page.findChild<QPushButton*>("UninstallSelectedButton");
+        QCOMPARE(stat->text(), QString("<b>3</b> programs"));
+        QVERIFY(!uninstallSelected->isEnabled());
+
+        const auto clickRow = [&](int i) { QTest::mouseClick(page.rows().at(i), Qt::LeftButton, {}, QPoint(20, 20)); };
+        clickRow(0);
+        clickRow(1);
+        QCOMPARE(stat->text(), QString("Selected <b>2</b>  ·  Free up <b>5 MB</b>"));
+        QVERIFY(uninstallSelected->isEnabled());
+        // A hidden row keeps its tick but leaves the count.
+        QTest::keyClicks(page.findChild<QLineEdit*>("SearchBox"), "B");
+        QCOMPARE(stat->text(), QString("Selected <b>1</b>  ·  Free up <b>3 MB</b>"));
+        page.findChild<QLineEdit*>("SearchBox")->clear();
+        clickRow(0);
+        clickRow(1);
+        QCOMPARE(stat->text(), QString("<b>3</b> programs"));
+        QVERIFY(!uninstallSelected->isEnabled());
+    }
+
+    // Which question a row's Remove asks first, and where "Force Remove…" leads.
+    void removeAsksTheRightQuestion_data()
+    {
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QStringList>("modals");
+        QTest::newRow("uninstaller: confirmation, declined") << "ok"
+                                                             << "u.exe" << QStringList { "Confirm Uninstall" };
+        QTest::newRow("no uninstaller: straight to force removal")
+            << "nouninstaller"
+            << "" << QStringList { "No Uninstaller Found", "ForceRemovePlaceholder" };
+        QTest::newRow("empty command despite its status")
+            << "old"
+            << "" << QStringList { "No Uninstaller Found", "ForceRemovePlaceholder" };
+    }
+    void removeAsksTheRightQuestion()
+    {
+        QFETCH(QString, status);
+        QFETCH(QString, command);
+        UninstallPage page;
+        page.resize(900, 600);
+        page.showApps({ app("Tool", "", 1, "", status, command) });
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        ModalScript script(status == "ok" ? QList<ModalScript::Step> { press("No") }
+                                          : QList<ModalScript::Step> { press("Force Remove…"), press("Close") });
+        UninstallRowWidget* row = page.rows().at(0);
+        QTest::mouseClick(row, Qt::LeftButton, {}, row->removeButtonRect().center());
+        QVERIFY(!row->isSelected());
+        QTEST(script.seen, "modals");
+        QVERIFY(page.manager()->history().isEmpty());
+    }
+
+    void failedUninstallOffersForceRemoval_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("modals");
+        QTest::newRow("program still listed")
+            << "Steam" << QStringList { "Uninstall Failed", "ForceRemovePlaceholder" };
+        QTest::newRow("program gone from the list") << "Ghost" << QStringList { "Uninstall Failed", "Not Found" };
+    }
+    void failedUninstallOffersForceRemoval()
+    {
+        QFETCH(QString, name);
+        UninstallPage page;
+        page.showApps({ app("Steam", "Valve", 1, "") });
+        ModalScript script({ press("Force Remove…"), press(name == "Ghost" ? "OK" : "Close") });
+        page.onUninstallFinished(name, false);
+        QTEST(script.seen, "modals");
+        QCOMPARE(page.findChild<QLabel*>("UninstallStatusLabel")->text(),
+            QString("✗ Failed to uninstall: <b>%1</b>").arg(name));
+    }
+
+    void inventoryShowsTheOverlayThenTheCounters()
+    {
+        const std::wstring key = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
+        auto& reg = m_platform->registry();
+        reg.setString(platform::Hive::LocalMachine, key + L"A", L"DisplayName", L"Alpha <b>Tool</b>");
+        reg.setString(platform::Hive::LocalMachine, key + L"A", L"UninstallString", L"a.exe");
+        reg.setString(platform::Hive::LocalMachine, key + L"A", L"InstallDate", L"20100101");
+        reg.setString(platform::Hive::LocalMachine, key + L"B", L"DisplayName", L"Beta");
+        UninstallPage page;
+        auto* empty = page.findChild<QLabel*>("UninstallEmptyLabel");
+        QCOMPARE(empty->text(), QString("Click Refresh to scan installed programs."));
+        QSignalSpy done(page.manager(), &UninstallManager::refreshFinished);
+        page.show();
+        page.startFirstLoad();
+        auto* refresh = page.findChildren<QPushButton*>("BtnGhost").at(0);
+        if (done.isEmpty()) {
+            QVERIFY(page.findChild<QWidget*>("UninstallOverlay")->isVisible());
+            QCOMPARE(refresh->text(), QString("Scanning..."));
+        }
+        QTRY_COMPARE(page.rows().size(), 2);
+        QVERIFY(!page.findChild<QWidget*>("UninstallOverlay")->isVisible());
+        QVERIFY(!empty->isVisible());
+        QCOMPARE(refresh->text(), QString("↺ Refresh"));
+        QCOMPARE(page.findChild<QLabel*>("AppsCount")->text(), QString("2"));
+        QCOMPARE(page.findChild<QLabel*>("UnusedCount")->text(), QString("1"));
+        // A name is shown as text, never as markup, in the status line.
+        page.onUninstallStarted("Alpha <b>Tool</b>");
+        QVERIFY(page.findChild<QLabel*>("UninstallStatusLabel")->text().contains("Alpha &lt;b&gt;Tool&lt;/b&gt;"));
+    }
+};
+
+QTEST_MAIN(tst_UninstallPage)
+#include "tst_uninstallpage.moc"
