@@ -68,6 +68,11 @@ public:
     // last and only when nothing inside stayed; `removed` counts it too. A link, a file or a
     // drive root is not removed (opened is false).
     virtual EmptyFolderResult removeFolder(const std::wstring& folder) = 0;
+
+    // Deletes one file, or a link as itself (never its target). True when nothing is left at
+    // `path`, so a file that is already gone counts as removed; false for a folder, for a path whose
+    // last component is "." or "..", and when the delete fails.
+    virtual bool removeFile(const std::wstring& path) = 0;
 };
 
 } // namespace platform

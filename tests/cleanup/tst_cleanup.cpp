@@ -107,6 +107,7 @@ public:
         --m_emptying;
         return result;
     }
+    bool removeFile(const std::wstring& path) override { return m_inner.removeFile(path); }
 
     void hold(bool on)
     {

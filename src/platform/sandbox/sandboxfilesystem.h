@@ -22,6 +22,7 @@ public:
     FolderMeasure measureFolder(
         const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop) override;
     EmptyFolderResult removeFolder(const std::wstring& folder) override;
+    bool removeFile(const std::wstring& path) override; // filesystemremove.cpp
 
 private:
     // A readable descriptor of `path` when it is a real folder at or below the root, else -1.

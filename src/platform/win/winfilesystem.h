@@ -21,6 +21,7 @@ public:
     FolderMeasure measureFolder(
         const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop) override;
     EmptyFolderResult removeFolder(const std::wstring& folder) override;
+    bool removeFile(const std::wstring& path) override; // filesystemremove.cpp
 };
 
 } // namespace platform

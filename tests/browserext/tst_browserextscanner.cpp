@@ -1,0 +1,297 @@
+#include "browserext/browserextscanner.h"
+#include "extmachine.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+namespace {
+
+const QString Id = QStringLiteral("aaaabbbbccccddddeeeeffffgggghhhh");
+const QString ChromeData = QStringLiteral("Google/Chrome/User Data");
+const QString BetaData = QStringLiteral("Google/Chrome Beta/User Data");
+const QString EdgeData = QStringLiteral("Microsoft/Edge/User Data");
+
+QByteArray manifestNamed(const char* name)
+{
+    return QByteArray("{\"name\":\"") + name + "\",\"version\":\"1.0\"}";
+}
+
+QList<BrowserExt> scan()
+{
+    BrowserExtScanner scanner;
+    QList<BrowserExt> result;
+    QObject receiver;
+    QObject::connect(
+        &scanner, &BrowserExtScanner::scanDone, &receiver, [&result](const QList<BrowserExt>& list) { result = list; });
+    scanner.start();
+    scanner.wait();
+    QCoreApplication::processEvents();
+    return result;
+}
+
+QStringList keys(const QList<BrowserExt>& list)
+{
+    QStringList out;
+    for (const BrowserExt& ext : list)
+        out.append(ext.browser + QLatin1Char('|') + ext.id);
+    return out;
+}
+
+} // namespace
+
+class tst_BrowserExtScanner : public QObject {
+    Q_OBJECT
+
+    // <local>/<userData>/<profile>/Extensions/<id>/<version>/<file>
+    static QString extFile(ExtMachine& m, const QString& userData, const QString& profile, const QString& id,
+        const QString& version, const QString& file)
+    {
+        return m.local(QStringLiteral("%1/%2/Extensions/%3/%4/%5").arg(userData, profile, id, version, file));
+    }
+
+private slots:
+    void deduplicatesByBrowserAndId_data()
+    {
+        QTest::addColumn<QStringList>("places"); // "userData|profile"
+        QTest::addColumn<QStringList>("expected");
+        const QString chrome = QStringLiteral("Google Chrome|") + Id, edge = QStringLiteral("Microsoft Edge|") + Id;
+        QTest::newRow("two Chrome profiles give one entry")
+            << QStringList { ChromeData + "|Default", ChromeData + "|Profile 1" } << QStringList { chrome };
+        QTest::newRow("Chrome and Chrome Beta give one entry")
+            << QStringList { ChromeData + "|Default", BetaData + "|Default" } << QStringList { chrome };
+        QTest::newRow("Chrome and Edge give two, Chrome first")
+            << QStringList { EdgeData + "|Default", ChromeData + "|Default" } << QStringList { chrome, edge };
+    }
+    void deduplicatesByBrowserAndId()
+    {
+        QFETCH(QStringList, places);
+        QFETCH(QStringList, expected);
+        ExtMachine m;
+        for (const QString& place : places) {
+            const QStringList parts = place.split(QLatin1Char('|'));
+            QVERIFY(m.write(extFile(m, parts[0], parts[1], Id, "1.0_0", "manifest.json"), manifestNamed("One")));
+        }
+        QCOMPARE(keys(scan()), expected);
+    }
+
+    // Settings entries the user did not install from a store are not listed.
+    void followsPreferenceSettings_data()
+    {
+        QTest::addColumn<QByteArray>("preferences");
+        QTest::addColumn<bool>("listed");
+        const QByteArray head = "{\"extensions\":{\"settings\":{\"" + Id.toLatin1() + "\":";
+        QTest::newRow("no settings entry") << QByteArray("{\"extensions\":{\"settings\":{}}}") << true;
+        QTest::newRow("store install, location 1") << head + "{\"location\":1}}}}" << true;
+        QTest::newRow("unpacked, location 4") << head + "{\"location\":4}}}}" << false;
+        QTest::newRow("external component, location 10") << head + "{\"location\":10}}}}" << false;
+        QTest::newRow("default-installed without update URL")
+            << head + "{\"was_installed_by_default\":true}}}}" << false;
+        QTest::newRow("default-installed that updates from a store")
+            << head + "{\"was_installed_by_default\":true,\"update_url\":\"https://u.example/x\"}}}}" << true;
+        QTest::newRow("settings of the wrong type") << QByteArray("{\"extensions\":{\"settings\":\"x\"}}") << true;
+        QTest::newRow("truncated Preferences") << head.left(head.size() - 4) << true;
+    }
+    void followsPreferenceSettings()
+    {
+        QFETCH(QByteArray, preferences);
+        QFETCH(bool, listed);
+        ExtMachine m;
+        QVERIFY(m.write(extFile(m, ChromeData, "Default", Id, "1.0_0", "manifest.json"), manifestNamed("One")));
+        QVERIFY(m.write(m.local(ChromeData + "/Default/Preferences"), preferences));
+        QCOMPARE(scan().size(), listed ? 1 : 0);
+    }
+
+    void usesTheHighestVersionFolder_data()
+    {
+        QTest::addColumn<QStringList>("folders");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("numeric, not text, order") << QStringList { "1.10.0_0", "1.9.0_0" } << "1.10.0_0";
+        QTest::newRow("a prefix is smaller") << QStringList { "2.0.1", "2.0" } << "2.0.1";
+        QTest::newRow("odd names count as zero") << QStringList { "Temp", "0.5_0", "..." } << "0.5_0";
+    }
+    void usesTheHighestVersionFolder()
+    {
+        QFETCH(QStringList, folders);
+        QFETCH(QString, expected);
+        ExtMachine m;
+        // No "version" in the manifests: the chosen folder's name shows through.
+        for (const QString& folder : folders)
+            QVERIFY(m.write(extFile(m, ChromeData, "Default", Id, folder, "manifest.json"), "{\"name\":\"N\"}"));
+        const QList<BrowserExt> list = scan();
+        QCOMPARE(list.size(), 1);
+        QCOMPARE(list[0].version, expected);
+    }
+
+    void resolvesNamesAndDescriptions_data()
+    {
+        QTest::addColumn<QByteArray>("manifest");
+        QTest::addColumn<QStringList>("localeFiles"); // "locale|messages.json text"
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("description");
+        const QStringList none;
+        QTest::newRow("message key matched ignoring case")
+            << QByteArray("{\"name\":\"__MSG_appName__\",\"description\":\"__MSG_appDesc__\"}")
+            << QStringList { "en|{\"APPNAME\":{\"message\":\"Ad Shield\"}}" } << "Ad Shield"
+            << "";
+        QTest::newRow("default locale first")
+            << QByteArray("{\"name\":\"__MSG_name__\",\"default_locale\":\"zh_CN\"}")
+            << QStringList { "en|{\"name\":{\"message\":\"Translate\"}}", "zh_CN|{\"name\":{\"message\":\"翻译\"}}" }
+            << "翻译"
+            << "";
+        QTest::newRow("English when the default locale is missing")
+            << QByteArray("{\"name\":\"__MSG_name__\",\"default_locale\":\"de\"}")
+            << QStringList { "en|{\"name\":{\"message\":\"Notes\"}}" } << "Notes"
+            << "";
+        QTest::newRow("a locale that climbs is not followed")
+            << QByteArray("{\"name\":\"__MSG_name__\",\"default_locale\":\"../../x\"}")
+            << QStringList { "en|{\"name\":{\"message\":\"Safe\"}}" } << "Safe"
+            << "";
+        QTest::newRow("no messages file gives the ID")
+            << QByteArray("{\"name\":\"__MSG_appName__\"}") << none << Id << "";
+        QTest::newRow("byte-order mark before the manifest")
+            << QByteArray("\xEF\xBB\xBF{\"name\":\"Marked\"}") << none << "Marked"
+            << "";
+        QTest::newRow("malformed manifest lists the ID") << QByteArray("{\"name\":") << none << Id << "";
+    }
+    void resolvesNamesAndDescriptions()
+    {
+        QFETCH(QByteArray, manifest);
+        QFETCH(QStringList, localeFiles);
+        QFETCH(QString, name);
+        QFETCH(QString, description);
+        ExtMachine m;
+        QVERIFY(m.write(extFile(m, ChromeData, "Default", Id, "3.1_0", "manifest.json"), manifest));
+        for (const QString& entry : localeFiles) {
+            const QString locale = entry.section(QLatin1Char('|'), 0, 0);
+            QVERIFY(m.write(extFile(m, ChromeData, "Default", Id, "3.1_0", "_locales/" + locale + "/messages.json"),
+                entry.section(QLatin1Char('|'), 1).toUtf8()));
+        }
+        // What a climbing locale would reach: it must not be read.
+        QVERIFY(m.write(
+            extFile(m, ChromeData, "Default", Id, "3.1_0", "x/messages.json"), "{\"name\":{\"message\":\"Escaped\"}}"));
+        const QList<BrowserExt> list = scan();
+        QCOMPARE(list.size(), 1);
+        QCOMPARE(list[0].name, name);
+        QCOMPARE(list[0].description, description);
+        QVERIFY(list[0].enabled);
+    }
+
+    void skipsThemesAndFoldersWithoutManifest()
+    {
+        ExtMachine m;
+        QVERIFY(m.write(extFile(m, ChromeData, "Default", "theme", "1_0", "manifest.json"),
+            "{\"name\":\"Dark\",\"theme\":{\"colors\":{}}}"));
+        QVERIFY(QDir().mkpath(extFile(m, ChromeData, "Default", "nomanifest", "1_0", "")));
+        QVERIFY(QDir().mkpath(extFile(m, ChromeData, "Default", "noversion", "", "")));
+        QVERIFY(m.write(extFile(m, ChromeData, "Default", Id, "1_0", "manifest.json"), manifestNamed("Kept")));
+        QCOMPARE(keys(scan()), QStringList { "Google Chrome|" + Id });
+    }
+
+    void choosesChromiumIcons_data()
+    {
+        QTest::addColumn<QByteArray>("icons");
+        QTest::addColumn<QString>("expected"); // relative to the version folder
+        QTest::newRow("48 before 128") << QByteArray("{\"128\":\"i128.png\",\"48\":\"i48.png\"}") << "i48.png";
+        QTest::newRow("a missing file is passed over")
+            << QByteArray("{\"48\":\"gone.png\",\"128\":\"i128.png\",\"32\":\"i32.png\"}") << "i128.png";
+        QTest::newRow("a path that climbs out") << QByteArray("{\"48\":\"../../../../../outside.png\"}") << "";
+        QTest::newRow("icons as an array") << QByteArray("[\"i48.png\"]") << "";
+    }
+    void choosesChromiumIcons()
+    {
+        QFETCH(QByteArray, icons);
+        QFETCH(QString, expected);
+        ExtMachine m;
+        const QString manifest = extFile(m, ChromeData, "Default", Id, "1_0", "manifest.json");
+        QVERIFY(m.write(manifest, "{\"name\":\"I\",\"icons\":" + icons + "}"));
+        const QString folder = QFileInfo(manifest).absolutePath();
+        for (const char* file : { "i16.png", "i32.png", "i48.png", "i64.png", "i128.png" })
+            QVERIFY(m.write(folder + "/" + file, "png"));
+        QVERIFY(m.write(QDir::cleanPath(folder + "/../../../../../outside.png"), "png"));
+        const QList<BrowserExt> list = scan();
+        QCOMPARE(list.size(), 1);
+        QCOMPARE(list[0].iconPath, expected.isEmpty() ? QString() : folder + "/" + expected);
+    }
+
+    void readsFirefoxAddons_data()
+    {
+        QTest::addColumn<QByteArray>("addon");
+        QTest::addColumn<bool>("listed");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("active extension") << QByteArray(
+            "{\"id\":\"a@x\",\"type\":\"extension\",\"active\":true,\"defaultLocale\":{\"name\":\"Grabber\"}}")
+                                          << true << true << "Grabber";
+        QTest::newRow("inactive for another reason is listed disabled")
+            << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\",\"active\":false,\"defaultLocale\":{\"name\":\"G\"}}")
+            << true << false << "G";
+        QTest::newRow("no name gives the ID")
+            << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\"}") << true << true << "a@x";
+        QTest::newRow("disabled by the user")
+            << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\",\"userDisabled\":true}") << false << false << "";
+        QTest::newRow("pending uninstall")
+            << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\",\"pendingUninstall\":true}") << false << false << "";
+        QTest::newRow("theme") << QByteArray("{\"id\":\"a@x\",\"type\":\"theme\"}") << false << false << "";
+        QTest::newRow("built in") << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\",\"location\":\"app-builtin\"}")
+                                  << false << false << "";
+    }
+    void readsFirefoxAddons()
+    {
+        QFETCH(QByteArray, addon);
+        QFETCH(bool, listed);
+        QFETCH(bool, enabled);
+        QFETCH(QString, name);
+        ExtMachine m;
+        QVERIFY(
+            m.write(m.roaming("Mozilla/Firefox/Profiles/p1.default/extensions.json"), "{\"addons\":[" + addon + "]}"));
+        const QList<BrowserExt> list = scan();
+        QCOMPARE(list.size(), listed ? 1 : 0);
+        if (listed) {
+            QCOMPARE(list[0].browser, QStringLiteral("Mozilla Firefox"));
+            QCOMPARE(list[0].enabled, enabled);
+            QCOMPARE(list[0].name, name);
+        }
+    }
+
+    void choosesTheLargestFirefoxIcon_data()
+    {
+        QTest::addColumn<QByteArray>("icons");
+        QTest::addColumn<QString>("expected"); // "@" stands for the add-on's unpacked folder
+        QTest::newRow("largest size wins")
+            << QByteArray("{\"32\":\"/i/32.png\",\"96\":\"/i/96.png\",\"64\":\"/i/64.png\"}") << "/i/96.png";
+        QTest::newRow("keys that are no sizes are never chosen")
+            << QByteArray("{\"big\":\"/i/big.png\",\"-500\":\"/i/neg.png\",\"16\":\"/i/16.png\"}") << "/i/16.png";
+        QTest::newRow("jar URL is not usable")
+            << QByteArray("{\"48\":\"/i/48.png\",\"64\":\"jar:file:///x.xpi!/i.png\"}") << "";
+        QTest::newRow("relative to the unpacked add-on") << QByteArray("{\"48\":\"icons/48.png\"}") << "@/icons/48.png";
+        QTest::newRow("relative path that climbs") << QByteArray("{\"48\":\"../../extensions.json\"}") << "";
+    }
+    void choosesTheLargestFirefoxIcon()
+    {
+        QFETCH(QByteArray, icons);
+        QFETCH(QString, expected);
+        ExtMachine m;
+        const QString profile = m.roaming("Mozilla/Firefox/Profiles/p1.default");
+        QVERIFY(m.write(profile + "/extensions/a@x/icons/48.png", "png"));
+        QVERIFY(m.write(profile + "/extensions.json",
+            "{\"addons\":[{\"id\":\"a@x\",\"type\":\"extension\",\"icons\":" + icons + "}]}"));
+        const QList<BrowserExt> list = scan();
+        QCOMPARE(list.size(), 1);
+        QCOMPARE(list[0].iconPath, QString(expected).replace(QLatin1Char('@'), profile + "/extensions/a@x"));
+    }
+
+    void survivesFirefoxFilesOfTheWrongShape()
+    {
+        ExtMachine m;
+        const QString profiles = m.roaming("Mozilla/Firefox/Profiles/");
+        QVERIFY(m.write(profiles + "a/extensions.json", "{\"addons\":{\"id\":\"x\"}}"));
+        QVERIFY(m.write(profiles + "b/extensions.json", "{\"addons\":[{\"id\":\"x\",\"type\":\"extension\""));
+        QVERIFY(m.write(profiles + "c/extensions.json", "[]"));
+        QVERIFY(m.write(profiles + "d/extensions.json",
+            "{\"addons\":[{\"type\":\"extension\"},{\"id\":\"ok@x\",\"type\":\"extension\"}]}"));
+        QCOMPARE(keys(scan()), QStringList { "Mozilla Firefox|ok@x" });
+    }
+};
+
+QTEST_MAIN(tst_BrowserExtScanner)
+#include "tst_browserextscanner.moc"
