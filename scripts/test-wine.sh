@@ -45,6 +45,8 @@ log "creating the Wine prefix"
 mkdir -p "$WINEPREFIX" # the server starts in the prefix folder
 wineserver -p >/dev/null 2>&1
 WINEDLLOVERRIDES="mscoree,mshtml=" wine cmd /c exit >/dev/null 2>&1
+# The service manager starts on first use; let that happen here, not inside a timed case.
+wine sc query >/dev/null 2>&1 || true
 
 log "running the tests"
 status=0
