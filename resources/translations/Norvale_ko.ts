@@ -4,7 +4,181 @@
 <context>
     <name>BrowserExtPage</name>
     <message>
-        <source>This page is not built yet.</source>
+        <source>正在移除「%1」... (%2/%3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未找到浏览器扩展</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>浏览器扩展</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>搜索扩展...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>↻ 刷新</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>请稍候...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在扫描浏览器扩展...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在扫描...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示 %1 / %2 个扩展</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>共 %1 个扩展</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>🗑  移除所选 (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>🗑  移除所选</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>浏览器正在运行</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>以下浏览器有后台进程仍在运行：&lt;br&gt;&lt;b&gt;%1&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>、</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>点击「强制结束」自动终止所有相关进程后继续移除，或手动关闭后点「重试」。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt; 有后台进程仍在运行。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭浏览器窗口后，后台进程可能仍然存在，请点击「强制结束」自动终止，或手动关闭后点「重试」。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>强制结束并移除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法完全终止：%1&lt;br&gt;请在任务管理器中手动结束后重试。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法完全终止 %1，请手动在任务管理器中结束所有 %2 进程后重试。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法终止进程</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移除扩展</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定要移除 &lt;b&gt;%1&lt;/b&gt;？&lt;br&gt;&lt;span style=&apos;font-size:11px; color:#94a3b8;&apos;&gt;将打开 %2 扩展管理页并复制扩展 ID&lt;/span&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在移除扩展...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✓ 已移除「%1」</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>自动移除失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无法自动移除 &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已打开 %1 扩展管理页面。&lt;br&gt;扩展 ID 已复制到剪贴板：&lt;br&gt;&lt;span style=&apos;font-family:monospace;color:#2563eb;&apos;&gt;%2&lt;/span&gt;&lt;br&gt;&lt;br&gt;手动移除后请点击&lt;b&gt;刷新&lt;/b&gt;。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>批量移除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>确定要移除选中的 &lt;b&gt;%1&lt;/b&gt; 个扩展？</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在移除 %1 个扩展...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移除完成</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>成功移除 &lt;b&gt;%1&lt;/b&gt; 个扩展。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>列表将自动刷新。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>部分移除失败</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>成功 &lt;b&gt;%1&lt;/b&gt; 个，失败 &lt;b&gt;%2&lt;/b&gt; 个。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>失败项（请手动前往浏览器移除）：&lt;br&gt;%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BrowserExtRow</name>
+    <message>
+        <source>已禁用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移除</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BrowserGroupWidget</name>
+    <message>
+        <source>%1 个扩展</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -197,6 +371,187 @@
     </message>
 </context>
 <context>
+    <name>ForceRemoveDialog</name>
+    <message>
+        <source>Force Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>🗑  Force Remove Selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forcefully removing: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning for removal targets...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠  Review each item carefully. High-risk items are unchecked by default.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deselect All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✅  Nothing found to remove.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removing selected items...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force remove complete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The application and its associated files have been removed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install location %1 is a system or user folder: it is left alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing found to remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Found &lt;b&gt;%1&lt;/b&gt; items  ·  &lt;b&gt;%2&lt;/b&gt; reclaimable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Starting...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force remove complete  ·  freed &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done ✓</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ForceRemoveRowWidget</name>
+    <message>
+        <source>Install Dir</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>App Data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Registry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Startup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Startup Lnk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scheduled Task</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>⚠ High Risk</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ForceRemoveScanner</name>
+    <message>
+        <source>Killing processes...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning install directory...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning app data...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning registry...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning startup items...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning scheduled tasks...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning services...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install folder: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>App data: .../%1/%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Registry uninstall entry: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Startup registry: %1 → %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Startup shortcut: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scheduled task: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows service: %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removing: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>无法加载页面链接。
@@ -241,6 +596,104 @@ The application will restart now.</source>
     </message>
     <message>
         <source>Please restart the application manually.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResidueDialog</name>
+    <message>
+        <source>Clean Residues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>🧹  Clean Residues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning for residue files...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Initializing...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✅  No residue files found!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deselect All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Found &lt;b&gt;%1&lt;/b&gt; items  ·  &lt;b&gt;%2&lt;/b&gt; reclaimable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No residue files found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>🗑  Clean Selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cleaning...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cleaning... %1%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✅  Cleaned — freed %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done ✓</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ResidueRowWidget</name>
+    <message>
+        <source>Safe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orphaned App Data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cache Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crash Reports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temp Files</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -317,7 +770,171 @@ The application will restart now.</source>
 <context>
     <name>UninstallPage</name>
     <message>
-        <source>This page is not built yet.</source>
+        <source>Software Uninstall</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Manage installed programs · Batch uninstall · Clean registry residues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> apps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> unused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search installed software...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>↺ Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click Refresh to scan installed programs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning installed programs...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading registry entries, please wait...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✦ Clean Residues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uninstall Selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scanning...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt; programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected &lt;b&gt;%1&lt;/b&gt;  ·  Free up &lt;b&gt;%2&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confirm Uninstall</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uninstall &quot;%1&quot;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Uninstaller Found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt; does not have a built-in uninstaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use &lt;b&gt;Force Remove&lt;/b&gt; to delete the installation folder, registry entries, and associated files.&lt;br&gt;&lt;br&gt;&lt;span style=&apos;color:#f59e0b; font-size:11px;&apos;&gt;⚠ This cannot be undone.&lt;/span&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force Remove…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uninstalling: %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✓ Uninstalled: &lt;b&gt;%1&lt;/b&gt;  &lt;a href=&apos;clean&apos; style=&apos;color:#2563eb;text-decoration:none;font-weight:600;&apos;&gt;Clean residues →&lt;/a&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>✗ Failed to uninstall: &lt;b&gt;%1&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uninstall Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;%1&lt;/b&gt; could not be uninstalled using its built-in uninstaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Force Remove&lt;/b&gt; will:&lt;br&gt;• Kill all running processes&lt;br&gt;• Delete the installation folder&lt;br&gt;• Remove registry entries&lt;br&gt;• Clean startup items &amp;amp; services&lt;br&gt;&lt;br&gt;&lt;span style=&apos;color:#f59e0b; font-size:11px;&apos;&gt;⚠ This cannot be undone. Review items carefully before confirming.&lt;/span&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not Found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not find installation info for &lt;b&gt;%1&lt;/b&gt;.&lt;br&gt;Please remove it manually.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batch Uninstall</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uninstall %1 selected apps?
+This cannot be undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UninstallRowWidget</name>
+    <message>
+        <source>Remove</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
