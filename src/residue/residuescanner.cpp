@@ -488,6 +488,35 @@ bool ResidueScanner::finishScan(bool global)
     return true;
 }
 
+qint64 ResidueScanner::emptyContents(const QString& folder) const
+{
+    platform::FileSystem& fs = fileSystem();
+    if (!fs.isFolder(folder.toStdWString()))
+        return 0;
+    // One entry at a time, each counted by its own size: a capped measure of the whole folder
+    // before and after would miss most of what a folder of many small files gave back.
+    const QFileInfoList entries
+        = QDir(folder).entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    qint64 freed = 0;
+    for (const QFileInfo& entry : entries) {
+        if (stopped())
+            break;
+        const QString path = folder + QLatin1Char('/') + entry.fileName();
+        const std::wstring native = path.toStdWString();
+        if (fs.isFolder(native)) {
+            const qint64 size = measure(path, GeneralFileBudget);
+            if (platform::removedWhole(fs.removeFolder(native)))
+                freed += size;
+        } else {
+            // A link goes as itself and gives back nothing: what it points at stays untouched.
+            const qint64 size = entry.isSymLink() || entry.isJunction() ? 0 : entry.size();
+            if (fs.removeFile(native))
+                freed += size;
+        }
+    }
+    return freed;
+}
+
 bool ResidueScanner::runClean(const QList<int>& indices)
 {
     const QList<ResidueItem> items = results();
@@ -502,20 +531,15 @@ bool ResidueScanner::runClean(const QList<int>& indices)
             if (!isAllowedTarget(item.path, item.category, m_roots)) {
                 qDebug() << "[ResidueScanner] Skipped protected folder:" << item.path;
             } else {
-                const std::wstring path = item.path.toStdWString();
                 const qint64 before = measure(item.path, GeneralFileBudget);
                 if (item.category == ResidueItem::OrphanedAppData) {
-                    const platform::EmptyFolderResult r = fileSystem().removeFolder(path);
-                    if (r.opened && r.failed == 0) {
+                    if (platform::removedWhole(fileSystem().removeFolder(item.path.toStdWString())))
                         freed += before;
-                    } else {
+                    else
                         qDebug() << "[ResidueScanner] Failed to remove:" << item.path;
-                        freed += std::max<qint64>(0, before - measure(item.path, GeneralFileBudget));
-                    }
                 } else {
                     // The folder is the program's; only what is in it is residue. Files in use stay.
-                    fileSystem().emptyFolder(path);
-                    freed += std::max<qint64>(0, before - measure(item.path, GeneralFileBudget));
+                    freed += emptyContents(item.path);
                 }
             }
         }

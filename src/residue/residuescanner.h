@@ -81,6 +81,8 @@ private:
     void addResult(const ResidueItem& item);
     bool finishScan(bool global);
     qint64 measure(const QString& folder, int fileBudget) const;
+    // Deletes what is inside `folder` and keeps the folder; the bytes that went.
+    qint64 emptyContents(const QString& folder) const;
     bool stopped() const;
     // Runs one task on the pool unless one is running; false when it was refused.
     bool start(std::function<bool()> work);

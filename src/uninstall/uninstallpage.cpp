@@ -545,9 +545,6 @@ void UninstallPage::onUninstallFinished(const QString& name, bool ok)
         return;
     }
     m_statusLabel->setText(tr("✗ Failed to uninstall: <b>%1</b>").arg(shown));
-    // In a batch the others go on; the status line tells which one failed.
-    if (m_batchRunning)
-        return;
 
     QMessageBox box(QMessageBox::Warning, tr("Uninstall Failed"),
         tr("<b>%1</b> could not be uninstalled using its built-in uninstaller.").arg(shown), QMessageBox::NoButton,

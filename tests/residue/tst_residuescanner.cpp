@@ -344,6 +344,28 @@ private slots:
             QVERIFY(QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot));
     }
 
+    // Each entry of an emptied folder counts by its own size, so a folder of more files than one
+    // measure takes in reports all it gave back.
+    void cleaningCountsEveryFileOfALargeCache()
+    {
+        const QString cache = roaming() + "/Inkscape/cache";
+        for (int i = 0; i < 3000; ++i) {
+            blob(cache + QString("/f%1").arg(i), 1 * KiB);
+            blob(cache + QString("/sub/f%1").arg(i), 1 * KiB);
+        }
+        ResidueScanner scanner;
+        scanner.setInstalledApps({ "Inkscape" }, {});
+        const QList<ResidueItem> items = runScan(scanner, [&] { scanner.scan(); });
+        const ResidueItem* item = find(items, cache);
+        QVERIFY(item);
+        QCOMPARE(item->size, 5000 * KiB); // the scan's measure stops at its file budget
+        QSignalSpy cleaned(&scanner, &ResidueScanner::cleanFinished);
+        scanner.clean({ int(item - items.constData()) });
+        QVERIFY(signalled(cleaned, 10000));
+        QCOMPARE(cleaned.at(0).at(0).toLongLong(), 6000 * KiB);
+        QVERIFY(QDir(cache).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot));
+    }
+
     void stopEndsTheScanWithoutResults()
     {
         for (int i = 0; i < 200; ++i)

@@ -250,17 +250,43 @@ private slots:
     void failedUninstallOffersForceRemoval_data()
     {
         QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("batch");
         QTest::addColumn<QStringList>("modals");
-        QTest::newRow("program still listed") << "Steam" << QStringList { "Uninstall Failed", "Force Remove" };
-        QTest::newRow("program gone from the list") << "Ghost" << QStringList { "Uninstall Failed", "Not Found" };
+        QTest::newRow("program still listed") << "Steam" << false << QStringList { "Uninstall Failed", "Force Remove" };
+        QTest::newRow("program gone from the list")
+            << "Ghost" << false << QStringList { "Uninstall Failed", "Not Found" };
+        // The sandbox runs no "u.exe", so the batch's only uninstall fails.
+        QTest::newRow("failure inside a batch")
+            << "Steam" << true << QStringList { "Batch Uninstall", "Uninstall Failed", "Force Remove" };
     }
     void failedUninstallOffersForceRemoval()
     {
         QFETCH(QString, name);
+        QFETCH(bool, batch);
         UninstallPage page;
+        page.resize(900, 600);
         page.showApps({ app("Steam", "Valve", 1, "") });
-        ModalScript script({ press("Force Remove…"), press(name == "Ghost" ? "OK" : "Cancel") });
-        page.onUninstallFinished(name, false);
+        QList<ModalScript::Step> steps { press("Force Remove…"), press(name == "Ghost" ? "OK" : "Cancel") };
+        if (batch) {
+            // The batch's closing refresh may land while the failure is on screen; the program
+            // is still installed, so it is still found.
+            const std::wstring key = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Steam";
+            m_platform->registry().setString(platform::Hive::LocalMachine, key, L"DisplayName", L"Steam");
+            m_platform->registry().setString(platform::Hive::LocalMachine, key, L"UninstallString", L"u.exe");
+            steps.prepend(press("Yes"));
+            page.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&page));
+            QTest::mouseClick(page.rows().at(0), Qt::LeftButton, {}, QPoint(20, 20));
+        }
+        ModalScript script(steps);
+        if (batch) {
+            QSignalSpy batchDone(page.manager(), &UninstallManager::batchFinished);
+            page.findChild<QPushButton*>("UninstallSelectedButton")->click();
+            QVERIFY(!batchDone.isEmpty() || batchDone.wait(5000));
+            QTRY_COMPARE(script.seen.size(), 3);
+        } else {
+            page.onUninstallFinished(name, false);
+        }
         QTEST(script.seen, "modals");
         QCOMPARE(page.findChild<QLabel*>("UninstallStatusLabel")->text(),
             QString("✗ Failed to uninstall: <b>%1</b>").arg(name));
