@@ -3,8 +3,6 @@
 #include "forceremoverowwidget.h"
 #include "forceremovescanner.h"
 
-#include "uninstall/uninstallmanager.h"
-
 #include <QCheckBox>
 #include <QDebug>
 #include <QDir>
@@ -325,7 +323,7 @@ void ForceRemoveDialog::onScanFinished(qint64 totalBytes)
     } else {
         m_summary->setText(keepSpaces(tr("Found <b>%1</b> items  ·  <b>%2</b> reclaimable")
                                           .arg(items.size())
-                                          .arg(UninstallManager::formatSize(totalBytes))));
+                                          .arg(ForceRemoveRowWidget::formatSize(totalBytes))));
     }
     m_primary->setEnabled(!items.isEmpty());
     m_views->setCurrentIndex(ListView);
@@ -372,7 +370,7 @@ void ForceRemoveDialog::onExecuteFinished(qint64 freedBytes)
     m_done = true;
     m_views->setCurrentIndex(DoneView);
     m_summary->setText(
-        keepSpaces(tr("Force remove complete  ·  freed <b>%1</b>").arg(UninstallManager::formatSize(freedBytes))));
+        keepSpaces(tr("Force remove complete  ·  freed <b>%1</b>").arg(ForceRemoveRowWidget::formatSize(freedBytes))));
     m_primary->setText(tr("Done ✓"));
     m_primary->setObjectName(QStringLiteral("FRDoneButton"));
     m_primary->setStyleSheet(

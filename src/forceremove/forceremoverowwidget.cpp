@@ -1,7 +1,5 @@
 #include "forceremoverowwidget.h"
 
-#include "uninstall/uninstallmanager.h"
-
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHash>
@@ -17,7 +15,9 @@ constexpr int IconSize = 36;
 constexpr int LabelMaxChars = 60;
 constexpr int LabelCutChars = 57;
 constexpr int SizeWidth = 70;
-constexpr qint64 MiB = 1024 * 1024;
+constexpr qint64 KiB = 1024;
+constexpr qint64 MiB = 1024 * KiB;
+constexpr qint64 GiB = 1024 * MiB;
 constexpr qint64 NoticeableBytes = 10 * MiB;
 constexpr qint64 LargeBytes = 100 * MiB;
 
@@ -96,6 +96,17 @@ QString ForceRemoveRowWidget::shortLabel(const QString& label)
     return label.size() > LabelMaxChars ? label.left(LabelCutChars) + QStringLiteral("...") : label;
 }
 
+QString ForceRemoveRowWidget::formatSize(qint64 bytes)
+{
+    if (bytes <= 0)
+        return QStringLiteral("0 KB");
+    if (bytes >= GiB)
+        return QStringLiteral("%1 GB").arg(double(bytes) / GiB, 0, 'f', 1);
+    if (bytes >= MiB)
+        return QStringLiteral("%1 MB").arg(double(bytes) / MiB, 0, 'f', 0);
+    return QStringLiteral("%1 KB").arg(double(bytes) / KiB, 0, 'f', 0);
+}
+
 QString ForceRemoveRowWidget::sizeColor(qint64 bytes)
 {
     if (bytes > LargeBytes)
@@ -164,7 +175,7 @@ ForceRemoveRowWidget::ForceRemoveRowWidget(const ForceRemoveItem& item, QWidget*
     layout->addLayout(column, 1);
 
     if (item.sizeBytes >= 1) {
-        auto* size = new QLabel(UninstallManager::formatSize(item.sizeBytes), this);
+        auto* size = new QLabel(formatSize(item.sizeBytes), this);
         size->setObjectName(QStringLiteral("FRRowSize"));
         size->setFixedWidth(SizeWidth);
         size->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

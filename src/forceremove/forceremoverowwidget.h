@@ -27,6 +27,9 @@ public:
     static QString shortLabel(const QString& label);
     // The size label's colour for a size.
     static QString sizeColor(qint64 bytes);
+    // The size text the dialog and its rows share: whole KB, MB without decimals from 1 MiB, GB
+    // with one decimal from 1 GiB, and "0 KB" for nothing at all.
+    static QString formatSize(qint64 bytes);
 
 private:
     QCheckBox* m_check = nullptr;

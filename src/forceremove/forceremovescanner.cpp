@@ -490,6 +490,12 @@ private:
             qWarning() << "[ForceRemove] Failed dir:" << path;
             return 0;
         }
+        // A folder that is already gone (removed since the scan) has reached the state asked for.
+        const QFileInfo info(folder);
+        if (!info.exists() && !info.isSymLink()) {
+            qDebug() << "[ForceRemove] Removed dir:" << path;
+            return 0;
+        }
         const qint64 size = p.fileSystem().folderSize(ws(folder));
         if (!platform::removedWhole(p.fileSystem().removeFolder(ws(folder)))) {
             qWarning() << "[ForceRemove] Failed dir:" << path;
@@ -505,12 +511,16 @@ private:
         platform::Registry& reg = machine().registry();
         if (!location.valid || !reg.keyExists(location.hive, location.parent))
             return;
+        // Denied means the key could not be opened for writing (a machine-wide entry without
+        // elevation): nothing was attempted, so nothing is logged as deleted. Any other outcome
+        // is logged, a failed deletion included.
         if (item.kind == ForceRemoveKind::RegistryKey) {
-            reg.deleteTree(location.hive, location.parent + L"\\" + location.leaf);
-            qDebug() << "[ForceRemove] Deleted reg:" << item.path;
+            if (reg.deleteTree(location.hive, location.parent + L"\\" + location.leaf)
+                != platform::Status::AccessDenied)
+                qDebug() << "[ForceRemove] Deleted reg:" << item.path;
         } else {
-            reg.deleteValue(location.hive, location.parent, location.leaf);
-            qDebug() << "[ForceRemove] Deleted startup reg:" << qs(location.leaf);
+            if (reg.deleteValue(location.hive, location.parent, location.leaf) != platform::Status::AccessDenied)
+                qDebug() << "[ForceRemove] Deleted startup reg:" << qs(location.leaf);
         }
     }
 

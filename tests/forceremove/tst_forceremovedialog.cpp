@@ -119,6 +119,23 @@ private slots:
         }
     }
 
+    // The dialog's totals use the same text: a removal that freed nothing reads "0 KB", not a dash.
+    void sizeTexts_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("nothing") << qint64(0) << "0 KB";
+        QTest::newRow("whole KiB below 1 MiB") << qint64(1000 * 1024) << "1000 KB";
+        QTest::newRow("1 MiB") << MiB << "1 MB";
+        QTest::newRow("1.5 GiB") << 1536 * MiB << "1.5 GB";
+    }
+    void sizeTexts()
+    {
+        QFETCH(qint64, bytes);
+        QFETCH(QString, text);
+        QCOMPARE(ForceRemoveRowWidget::formatSize(bytes), text);
+    }
+
     void longLabelsAreCutWithTheWholeTextInTheTooltip()
     {
         const QString sixty(60, QLatin1Char('a'));

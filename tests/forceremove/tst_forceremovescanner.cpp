@@ -2,10 +2,14 @@
 
 #include <forceremove/forceremovescanner.h>
 
+#include <platform/filesystem.h>
+#include <platform/forwardingplatform.h>
 #include <platform/registry.h>
 
+#include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QMutex>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -98,6 +102,122 @@ QStringList describe(const QList<ForceRemoveItem>& items)
                          .arg(i.checked));
     return lines;
 }
+
+// The sandbox as a user without elevation sees it, with one folder held by a file in use: keys
+// and values under HKLM cannot be opened for writing, and `lockedFolder` never goes whole.
+class StubbornMachine final : public platform::ForwardingPlatform,
+                              public platform::Registry,
+                              public platform::FileSystem {
+public:
+    StubbornMachine(SandboxMachine& inner, QString lockedFolder)
+        : ForwardingPlatform(inner.platform())
+        , m_reg(inner.registry())
+        , m_fs(inner.platform().fileSystem())
+        , m_locked(std::move(lockedFolder))
+    {
+        platform::setCurrent(this);
+    }
+    ~StubbornMachine() override { platform::setCurrent(&inner()); }
+
+    platform::Registry& registry() override { return *this; }
+    platform::FileSystem& fileSystem() override { return *this; }
+
+    bool keyExists(Hive hive, const std::wstring& path) const override { return m_reg.keyExists(hive, path); }
+    std::optional<std::vector<std::wstring>> subKeys(
+        Hive hive, const std::wstring& path, std::size_t max) const override
+    {
+        return m_reg.subKeys(hive, path, max);
+    }
+    std::optional<std::uint32_t> subKeyCount(Hive hive, const std::wstring& path) const override
+    {
+        return m_reg.subKeyCount(hive, path);
+    }
+    std::optional<std::vector<platform::EnumeratedValue>> enumValues(
+        Hive hive, const std::wstring& path, std::size_t maxName, std::size_t maxData) const override
+    {
+        return m_reg.enumValues(hive, path, maxName, maxData);
+    }
+    platform::Status queryValue(Hive hive, const std::wstring& path, const std::wstring& name, std::size_t max,
+        platform::RawValue& out) const override
+    {
+        return m_reg.queryValue(hive, path, name, max, out);
+    }
+    platform::Status createKey(Hive hive, const std::wstring& path) override { return m_reg.createKey(hive, path); }
+    platform::Status setValue(Hive hive, const std::wstring& path, const platform::RawValue& value) override
+    {
+        return m_reg.setValue(hive, path, value);
+    }
+    platform::Status deleteTree(Hive hive, const std::wstring& path) override
+    {
+        return hive == Hive::LocalMachine ? platform::Status::AccessDenied : m_reg.deleteTree(hive, path);
+    }
+    platform::Status deleteValue(Hive hive, const std::wstring& path, const std::wstring& name) override
+    {
+        return hive == Hive::LocalMachine ? platform::Status::AccessDenied : m_reg.deleteValue(hive, path, name);
+    }
+
+    bool isFolder(const std::wstring& path) override { return m_fs.isFolder(path); }
+    std::optional<std::vector<std::wstring>> subFolders(const std::wstring& folder) override
+    {
+        return m_fs.subFolders(folder);
+    }
+    std::int64_t folderSize(const std::wstring& folder) override { return m_fs.folderSize(folder); }
+    platform::EmptyFolderResult emptyFolder(const std::wstring& folder) override { return m_fs.emptyFolder(folder); }
+    platform::FolderMeasure measureFolder(
+        const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop) override
+    {
+        return m_fs.measureFolder(folder, maxFiles, stop);
+    }
+    platform::EmptyFolderResult removeFolder(const std::wstring& folder) override
+    {
+        if (QString::fromStdWString(folder) != m_locked)
+            return m_fs.removeFolder(folder);
+        platform::EmptyFolderResult partly;
+        partly.opened = true;
+        partly.removed = 1;
+        partly.failed = 1;
+        return partly;
+    }
+    bool removeFile(const std::wstring& path) override { return m_fs.removeFile(path); }
+
+private:
+    platform::Registry& m_reg;
+    platform::FileSystem& m_fs;
+    const QString m_locked;
+};
+
+// The "[ForceRemove]" lines logged while it lives, from any thread.
+class ForceRemoveLog {
+public:
+    ForceRemoveLog() { s_previous = qInstallMessageHandler(&ForceRemoveLog::handle); }
+    ~ForceRemoveLog() { qInstallMessageHandler(s_previous); }
+
+    QStringList lines() const
+    {
+        QMutexLocker locker(&s_lock);
+        return s_lines;
+    }
+    // A line as the scanner writes it: the words, then the value as the debug stream quotes it.
+    static QString line(const char* words, const QString& value)
+    {
+        QString text;
+        QDebug(&text) << words << value;
+        return text.trimmed();
+    }
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext&, const QString& message)
+    {
+        if (!message.startsWith(QLatin1String("[ForceRemove] ")))
+            return;
+        QMutexLocker locker(&s_lock);
+        s_lines.append((type == QtWarningMsg ? QStringLiteral("warning ") : QString()) + message.trimmed());
+    }
+
+    static inline QMutex s_lock;
+    static inline QStringList s_lines;
+    static inline QtMessageHandler s_previous = nullptr;
+};
 
 } // namespace
 
@@ -229,6 +349,48 @@ private slots:
                                      QStringLiteral("\\Foo App Update"), QStringLiteral("/f") },
                 { QStringLiteral("sc"), QStringLiteral("stop"), QStringLiteral("FooSvc") },
                 { QStringLiteral("sc"), QStringLiteral("delete"), QStringLiteral("FooSvc") } }));
+    }
+
+    // Each removal is logged as it came out: a folder already gone counts as removed, a folder
+    // that stayed in part as failed (and frees nothing), and a key that could not be opened for
+    // writing is not reported as deleted.
+    void removalOutcomesAreLoggedAsTheyCameOut()
+    {
+        SandboxMachine m;
+        m.writeFile(Install + QStringLiteral("\\foo.dll"), 700);
+        m.writeFile(Roaming + QStringLiteral("\\Foo App\\s.ini"), 200);
+        m.writeFile(Local + QStringLiteral("\\Foo App\\c.bin"), 300);
+        m.registry().setString(Hive::LocalMachine, Uninstall + L"\\FooApp", L"DisplayName", L"Foo App");
+        m.registry().setString(Hive::CurrentUser, Uninstall + L"\\FooUser", L"DisplayName", L"Foo App");
+        m.registry().setString(Hive::LocalMachine, Run, L"FooTray", TrayCommand.toStdWString());
+        StubbornMachine stubborn(m, m.local(Install));
+        auto tools = std::make_shared<RecordedTools>();
+        ForceRemoveScanner scanner;
+        scanner.setToolRunner(tools);
+        const ScanRun run = scan(scanner, fooApp());
+        QCOMPARE(run.items.size(), 6);
+        const QString localFolder = m.local(Local) + QStringLiteral("/Foo App");
+        QCOMPARE(run.items.at(2).path, localFolder);
+        QVERIFY(QDir(localFolder).removeRecursively()); // removed by someone else after the scan
+
+        const QStringList expected = {
+            QStringLiteral("warning ") + ForceRemoveLog::line("[ForceRemove] Failed dir:", Install),
+            ForceRemoveLog::line("[ForceRemove] Removed dir:", run.items.at(1).path),
+            ForceRemoveLog::line("[ForceRemove] Removed dir:", localFolder),
+            ForceRemoveLog::line("[ForceRemove] Deleted reg:", QStringLiteral("HKCU\\") + qs(Uninstall) + "\\FooUser"),
+            QStringLiteral("[ForceRemove] Execute done, freed: 0 MB"),
+        };
+        QSignalSpy finished(&scanner, &ForceRemoveScanner::executeFinished);
+        {
+            ForceRemoveLog log;
+            scanner.execute({ 0, 1, 2, 3, 4, 5 });
+            QVERIFY(arrived(finished));
+            QTRY_COMPARE(log.lines(), expected); // the last line follows the signal
+        }
+        QCOMPARE(finished.at(0).at(0).toLongLong(), 200);
+        QVERIFY(m.registry().keyExists(Hive::LocalMachine, Uninstall + L"\\FooApp"));
+        QVERIFY(!m.registry().keyExists(Hive::CurrentUser, Uninstall + L"\\FooUser"));
+        QVERIFY(QFileInfo::exists(m.local(Install)));
     }
 
     void scheduledTasksFromRecordedListings_data()
