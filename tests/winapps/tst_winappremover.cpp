@@ -127,12 +127,14 @@ void tst_WinAppRemover::outcomes_data()
         << Outcomes { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1, {}, "E") }, { "verify", outcome(0) } }
         << "" << true << ""
         << "user allUsers provisioned verify";
-    QTest::newRow("a check that could not run proves nothing") << Outcomes {
-        { "user", outcome(-1) }, { "allUsers", outcome(-1) }, { "winget", outcome(-1) }, { "verify", outcome(-1) }
-    } << "Contoso.Notes_abc" << false << NeedsAdmin << "user allUsers provisioned winget verify";
-    QTest::newRow("a refused check keeps a successful removal")
-        << Outcomes { { "verify", outcome(1, {}, "Access is denied.") } } << "" << true << ""
-        << "user verify";
+    QTest::newRow("an empty answer is gone whatever the check's exit code")
+        << Outcomes { { "user", outcome(-1) }, { "allUsers", outcome(-1) }, { "winget", outcome(-1) },
+               { "verify", outcome(-1) } }
+        << "Contoso.Notes_abc" << true << ""
+        << "user allUsers provisioned winget verify";
+    QTest::newRow("a listed package fails even when the check exits non-zero")
+        << Outcomes { { "verify", outcome(1, "Contoso.Notes_1.0.0.0_x64__abc", "partial") } } << "" << false
+        << Protected << "user verify";
 }
 
 void tst_WinAppRemover::outcomes()

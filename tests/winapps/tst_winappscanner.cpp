@@ -69,9 +69,10 @@ private:
         QSignalSpy done(&scanner, &WinAppScanner::scanDone);
         QSignalSpy steps(&scanner, &WinAppScanner::scanProgress);
         scanner.start();
-        if (!done.wait(10000))
+        // The spies record from the scanner's thread as the signals are sent, so a scan that ends
+        // before a QSignalSpy::wait() could begin is not missed: joining the thread is enough.
+        if (!scanner.wait(10000) || done.isEmpty())
             return {};
-        scanner.wait();
         if (progress) {
             for (const auto& args : steps)
                 progress->append(args.at(0).toInt());

@@ -116,6 +116,8 @@ public:
     }
     template <typename U> HRESULT queryInto(const GUID& iid, ComRef<U>& out) const
     {
+        if (!m_ptr)
+            return E_POINTER;
         return m_ptr->QueryInterface(iid, reinterpret_cast<void**>(out.put()));
     }
 
@@ -212,7 +214,9 @@ bool readKind(Calls& calls, IPackageAbi* package, PackageRecord& record, ComRef<
     RtBool bundle = 0;
     INT32 signature = 0;
     ComRef<IPackage4Abi> package4;
-    if (!calls.check(package->get_Id(id.put()), "get_Id") || !calls.check(id->get_Name(name.put()), "get_Name")
+    // A success code with no object is as broken as a failure code, and must not be dereferenced.
+    if (!calls.check(package->get_Id(id.put()), "get_Id") || !calls.check(id.get() ? S_OK : E_POINTER, "get_Id")
+        || !calls.check(id->get_Name(name.put()), "get_Name")
         || !calls.check(package->get_IsFramework(&framework), "get_IsFramework")
         || !calls.check(package->QueryInterface(IID_Package2, reinterpret_cast<void**>(package2.put())), "IPackage2")
         || !calls.check(package2->get_IsResourcePackage(&resource), "get_IsResourcePackage")
@@ -240,8 +244,9 @@ bool readDetails(Calls& calls, IPackageAbi* package, IPackageIdAbi* id, IPackage
         || !calls.check(id->get_PublisherId(publisherId.put()), "get_PublisherId")
         || !calls.check(id->get_Version(&version), "get_Version")
         || !calls.check(package->get_InstalledLocation(folder.put()), "get_InstalledLocation")
-        || !calls.check(folder.queryInto(IID_StorageItem, item), "IStorageItem")
-        || !calls.check(item->get_Path(path.put()), "get_Path")
+        // A package without a folder has no location: the record keeps an empty path.
+        || (folder.get() && !calls.check(folder.queryInto(IID_StorageItem, item), "IStorageItem"))
+        || (item.get() && !calls.check(item->get_Path(path.put()), "get_Path"))
         || !calls.check(package2->get_DisplayName(displayName.put()), "get_DisplayName")
         || !calls.check(package2->get_PublisherDisplayName(publisher.put()), "get_PublisherDisplayName"))
         return false;
@@ -275,7 +280,8 @@ CatalogueStatus WinPackageCatalogue::forEachPackage(const Filter& wanted, const 
         || !calls.check(instance.queryInto(IID_PackageManager, manager), "IPackageManager")
         || !calls.check(
             manager->FindPackagesByUserSecurityId(currentUser.get(), packages.put()), "FindPackagesByUserSecurityId")
-        || !calls.check(packages->First(it.put()), "First")
+        || !calls.check(packages.get() ? S_OK : E_POINTER, "FindPackagesByUserSecurityId")
+        || !calls.check(packages->First(it.put()), "First") || !calls.check(it.get() ? S_OK : E_POINTER, "First")
         || !calls.check(it->get_HasCurrent(&hasCurrent), "get_HasCurrent"))
         return calls.status();
 
@@ -285,6 +291,7 @@ CatalogueStatus WinPackageCatalogue::forEachPackage(const Filter& wanted, const 
         ComRef<IPackage2Abi> package2;
         PackageRecord record;
         if (!calls.check(it->get_Current(package.put()), "get_Current")
+            || !calls.check(package.get() ? S_OK : E_POINTER, "get_Current")
             || !readKind(calls, package.get(), record, id, package2))
             break;
         if (wanted(record)) {
