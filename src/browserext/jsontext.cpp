@@ -131,7 +131,8 @@ bool isStrictJson(const QByteArray& text, qsizetype pos)
                 } else {
                     qsizetype end = -1;
                     for (const char* literal : { "true", "false", "null" }) {
-                        if (text.mid(pos, qstrlen(literal)) == literal)
+                        // The text's terminating NUL ends a comparison that reaches its end.
+                        if (qstrncmp(text.constData() + pos, literal, qstrlen(literal)) == 0)
                             end = pos + qstrlen(literal);
                     }
                     pos = end;
