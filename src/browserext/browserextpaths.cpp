@@ -28,10 +28,13 @@ QJsonObject parseObject(QByteArray bytes)
 
 bool isSafeId(const QString& id)
 {
-    if (id.isEmpty() || id == QLatin1String(".") || id == QLatin1String(".."))
+    // Windows drops a trailing dot or space from a name, so "x." would reach the folder "x".
+    if (id.isEmpty() || id == QLatin1String(".") || id == QLatin1String("..") || id.endsWith(QLatin1Char('.'))
+        || id.endsWith(QLatin1Char(' ')))
         return false;
     for (const QChar c : id) {
-        if (c == QLatin1Char('/') || c == QLatin1Char('\\') || c == QLatin1Char(':') || c.unicode() < 0x20)
+        // Separators, a drive or stream, and wildcards that a directory search would expand.
+        if (c.unicode() < 0x20 || QStringView(u"/\\:*?\"<>|").contains(c))
             return false;
     }
     return true;

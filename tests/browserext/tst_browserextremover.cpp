@@ -233,7 +233,7 @@ private slots:
             << QStringList { "Google/Chrome/User Data/Default/Preferences|{}" } << QStringList() << Id << false
             << "Google Chrome profile directory not found (tried: @/Google/Chrome/User Data, @/Google/Chrome Beta/User "
                "Data, @/Google/Chrome Dev/User Data, @/Google/Chrome SxS/User Data)";
-        for (const char* id : { "", ".", "..", "../Default", "a\\b", "C:x" })
+        for (const char* id : { "", ".", "..", "../Default", "a\\b", "C:x", "a*", "a?", "x.", "x ", "a|b" })
             QTest::newRow(qPrintable(QStringLiteral("unsafe ID \"%1\"").arg(id)))
                 << QStringList { folder, stable + "Preferences|{}" } << QStringList() << QString(id) << false
                 << "Invalid extension ID";
