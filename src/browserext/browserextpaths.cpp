@@ -1,6 +1,7 @@
 #include "browserextpaths.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QStandardPaths>
 
@@ -8,6 +9,9 @@ namespace browserext {
 
 std::optional<QByteArray> readSmallFile(const QString& path)
 {
+    // Only a regular file: opening a pipe or a device would block or never end.
+    if (!QFileInfo(path).isFile())
+        return std::nullopt;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > MaxJsonBytes)
         return std::nullopt;

@@ -1,9 +1,14 @@
 #include "browserext/browserextremover.h"
+#include "browserext/browserextscanner.h"
 #include "extmachine.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 namespace {
 
@@ -183,6 +188,21 @@ private slots:
         QVERIFY(!BrowserExtRemover::patchPreferences(file, Id));
         QCOMPARE(QFileInfo(file).size(), text.size());
     }
+
+#ifdef Q_OS_UNIX
+    // A pipe in a file's place would block the first read until someone writes to it.
+    void aPipeInAFilesPlaceIsNotOpened()
+    {
+        ExtMachine m;
+        const QString profile = m.local("Google/Chrome/User Data/Default");
+        QVERIFY(QDir().mkpath(profile + "/Extensions/" + Id + "/1_0"));
+        QCOMPARE(::mkfifo(QFile::encodeName(profile + "/Preferences").constData(), 0600), 0);
+        QCOMPARE(
+            ::mkfifo(QFile::encodeName(profile + "/Extensions/" + Id + "/1_0/manifest.json").constData(), 0600), 0);
+        QVERIFY(!BrowserExtRemover::patchPreferences(profile + "/Preferences", Id));
+        QVERIFY(!BrowserExtScanner::readJsonObject(profile + "/Preferences").contains("extensions"));
+    }
+#endif
 
     void removesFromChromeProfiles()
     {
