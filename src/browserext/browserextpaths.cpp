@@ -1,6 +1,7 @@
 #include "browserextpaths.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QStandardPaths>
 
@@ -8,6 +9,9 @@ namespace browserext {
 
 std::optional<QByteArray> readSmallFile(const QString& path)
 {
+    // Only a regular file: opening a pipe or a device would block or never end.
+    if (!QFileInfo(path).isFile())
+        return std::nullopt;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > MaxJsonBytes)
         return std::nullopt;
@@ -28,10 +32,13 @@ QJsonObject parseObject(QByteArray bytes)
 
 bool isSafeId(const QString& id)
 {
-    if (id.isEmpty() || id == QLatin1String(".") || id == QLatin1String(".."))
+    // Windows drops a trailing dot or space from a name, so "x." would reach the folder "x".
+    if (id.isEmpty() || id == QLatin1String(".") || id == QLatin1String("..") || id.endsWith(QLatin1Char('.'))
+        || id.endsWith(QLatin1Char(' ')))
         return false;
     for (const QChar c : id) {
-        if (c == QLatin1Char('/') || c == QLatin1Char('\\') || c == QLatin1Char(':') || c.unicode() < 0x20)
+        // Separators, a drive or stream, and wildcards that a directory search would expand.
+        if (c.unicode() < 0x20 || QStringView(u"/\\:*?\"<>|").contains(c))
             return false;
     }
     return true;

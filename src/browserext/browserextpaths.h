@@ -27,7 +27,8 @@ constexpr qint64 MaxJsonBytes = 64 * 1024 * 1024;
 std::optional<QByteArray> readSmallFile(const QString& path);
 // The top-level object; a byte-order mark is allowed, anything malformed gives an empty object.
 QJsonObject parseObject(QByteArray bytes);
-// An ID may name one folder and nothing else: not empty, not "." or "..", no separators or drive.
+// An ID may name one folder and nothing else: not empty, not "." or "..", no separators, drive,
+// wildcards or characters Windows would drop.
 bool isSafeId(const QString& id);
 // LOCALAPPDATA as given, or the generic data folder when it is empty.
 QString localDataFolder(const QString& localAppData);

@@ -117,7 +117,9 @@ QWidget* BrowserExtRow::createAvatar()
     }
     // The same extension keeps the same colour from scan to scan.
     const char* colour = AvatarColours[qHash(m_ext.id) % std::size(AvatarColours)];
-    const QString initial = m_ext.name.trimmed().left(1).toUpper();
+    // One whole character: a name may begin with an emoji, which takes two UTF-16 units.
+    const QString trimmed = m_ext.name.trimmed();
+    const QString initial = trimmed.left(!trimmed.isEmpty() && trimmed.at(0).isHighSurrogate() ? 2 : 1).toUpper();
     avatar->setTextFormat(Qt::PlainText);
     avatar->setText(initial.isEmpty() ? QStringLiteral("?") : initial);
     avatar->setStyleSheet(

@@ -48,8 +48,10 @@ QString fileInside(const QString& base, const QString& relative)
 {
     if (relative.isEmpty())
         return QString();
-    const QString path = QDir::cleanPath(base + QLatin1Char('/') + relative);
-    if (!path.startsWith(base + QLatin1Char('/')) || !QFileInfo(path).isFile())
+    // Both sides cleaned alike: a base taken from the environment may hold "\\" or "//".
+    const QString root = QDir::cleanPath(base);
+    const QString path = QDir::cleanPath(root + QLatin1Char('/') + relative);
+    if (!path.startsWith(root + QLatin1Char('/')) || !QFileInfo(path).isFile())
         return QString();
     return path;
 }

@@ -28,6 +28,154 @@ QByteArray quoted(const QString& text)
     return out + '"';
 }
 
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool isHexDigit(char c)
+{
+    return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
+
+// One past a string starting at `pos`, or -1. Strict: no raw control characters, only the escapes
+// JSON knows, four hex digits after \u.
+qsizetype strictStringEnd(const QByteArray& text, qsizetype pos)
+{
+    const qsizetype size = text.size();
+    for (++pos; pos < size;) {
+        const char c = text.at(pos);
+        if (c == '"')
+            return pos + 1;
+        if (static_cast<unsigned char>(c) < 0x20)
+            return -1;
+        if (c != '\\') {
+            ++pos;
+            continue;
+        }
+        const char e = pos + 1 < size ? text.at(pos + 1) : '\0';
+        if (e == 'u') {
+            for (qsizetype i = pos + 2; i < pos + 6; ++i) {
+                if (i >= size || !isHexDigit(text.at(i)))
+                    return -1;
+            }
+            pos += 6;
+        } else if (e != '\0' && QByteArrayView("\"\\/bfnrt").contains(e)) {
+            pos += 2;
+        } else {
+            return -1;
+        }
+    }
+    return -1;
+}
+
+// One past a number starting at `pos`, or -1: "-"? ("0" | [1-9][0-9]*) ("." [0-9]+)? ([eE] [+-]? [0-9]+)?
+qsizetype strictNumberEnd(const QByteArray& text, qsizetype pos)
+{
+    const qsizetype size = text.size();
+    auto at = [&](qsizetype i) { return i < size ? text.at(i) : '\0'; };
+    auto digits = [&](qsizetype i) {
+        const qsizetype begin = i;
+        while (isDigit(at(i)))
+            ++i;
+        return i > begin ? i : -1;
+    };
+    if (at(pos) == '-')
+        ++pos;
+    if (at(pos) == '0')
+        ++pos;
+    else if ((pos = digits(pos)) < 0)
+        return -1;
+    if (at(pos) == '.' && (pos = digits(pos + 1)) < 0)
+        return -1;
+    if (at(pos) == 'e' || at(pos) == 'E') {
+        ++pos;
+        if (at(pos) == '+' || at(pos) == '-')
+            ++pos;
+        pos = digits(pos);
+    }
+    return pos;
+}
+
+// The text from `pos` is exactly one JSON value and trailing space. The reader in front of this
+// forgives things a browser's own reader refuses (unknown escapes, raw control characters, "1."
+// and ".5"); a file a browser would reject is not one this class may edit and write back.
+// Iterative, so nesting depth costs no stack.
+bool isStrictJson(const QByteArray& text, qsizetype pos)
+{
+    enum class Expect { Value, ValueOrEnd, Key, KeyOrEnd, Next };
+    const qsizetype size = text.size();
+    auto at = [&](qsizetype i) { return i < size ? text.at(i) : '\0'; };
+    QByteArray open; // the brackets of the containers we are inside, innermost last
+    Expect expect = Expect::Value;
+    for (;;) {
+        while (pos < size && isSpace(text.at(pos)))
+            ++pos;
+        const char c = at(pos);
+        switch (expect) {
+        case Expect::ValueOrEnd:
+        case Expect::Value:
+            if (expect == Expect::ValueOrEnd && c == ']') {
+                open.chop(1);
+                ++pos;
+                expect = Expect::Next;
+            } else if (c == '{' || c == '[') {
+                open += c;
+                ++pos;
+                expect = c == '{' ? Expect::KeyOrEnd : Expect::ValueOrEnd;
+            } else {
+                if (c == '"') {
+                    pos = strictStringEnd(text, pos);
+                } else if (c == '-' || isDigit(c)) {
+                    pos = strictNumberEnd(text, pos);
+                } else {
+                    qsizetype end = -1;
+                    for (const char* literal : { "true", "false", "null" }) {
+                        // The text's terminating NUL ends a comparison that reaches its end.
+                        if (qstrncmp(text.constData() + pos, literal, qstrlen(literal)) == 0)
+                            end = pos + qstrlen(literal);
+                    }
+                    pos = end;
+                }
+                if (pos < 0)
+                    return false;
+                expect = Expect::Next;
+            }
+            break;
+        case Expect::KeyOrEnd:
+        case Expect::Key:
+            if (expect == Expect::KeyOrEnd && c == '}') {
+                open.chop(1);
+                ++pos;
+                expect = Expect::Next;
+                break;
+            }
+            if (c != '"' || (pos = strictStringEnd(text, pos)) < 0)
+                return false;
+            while (pos < size && isSpace(text.at(pos)))
+                ++pos;
+            if (at(pos) != ':')
+                return false;
+            ++pos;
+            expect = Expect::Value;
+            break;
+        case Expect::Next:
+            if (open.isEmpty())
+                return pos == size;
+            if (c == ',') {
+                ++pos;
+                expect = open.endsWith('{') ? Expect::Key : Expect::Value;
+            } else if ((c == '}' && open.endsWith('{')) || (c == ']' && open.endsWith('['))) {
+                open.chop(1);
+                ++pos;
+            } else {
+                return false;
+            }
+            break;
+        }
+    }
+}
+
 } // namespace
 
 JsonText::JsonText(QByteArray text)
@@ -36,9 +184,9 @@ JsonText::JsonText(QByteArray text)
     const qsizetype start = m_text.startsWith("\xEF\xBB\xBF") ? 3 : 0;
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(m_text.mid(start), &error);
-    if (error.error != QJsonParseError::NoError || !document.isObject())
+    if (error.error != QJsonParseError::NoError || !document.isObject() || !isStrictJson(m_text, start))
         return;
-    // The parser has accepted the text, so the span walks below meet only well-formed JSON.
+    // Both readers have accepted the text, so the span walks below meet only well-formed JSON.
     const qsizetype begin = skipSpace(start);
     const qsizetype end = valueEnd(begin);
     if (at(begin) == '{' && end > begin)

@@ -18,8 +18,8 @@ public:
 
     explicit JsonText(QByteArray text);
 
-    // Well-formed JSON (a leading byte-order mark allowed) whose top level is an object. Nothing
-    // else may be read or edited.
+    // Strictly well-formed JSON (a leading byte-order mark allowed) whose top level is an object.
+    // Nothing else may be read or edited.
     bool isObjectDocument() const { return m_root.isValid(); }
     Span root() const { return m_root; }
 
@@ -38,7 +38,7 @@ public:
 
     // Edits refer to the original text and must not overlap; edited() applies them all.
     void replace(Span span, const QByteArray& with);
-    // Adds members at the start of the object at `object`.
+    // Adds members after the last member of the object at `object`.
     void insertMembers(Span object, const QList<QPair<QString, QByteArray>>& members);
     bool hasEdits() const { return !m_edits.isEmpty(); }
     QByteArray edited() const;

@@ -19,9 +19,10 @@
 // can make undeletable (tests run as root, so permissions cannot do that).
 class ExtMachine final : public platform::ForwardingPlatform, public platform::Processes, public platform::FileSystem {
 public:
-    ExtMachine()
+    // `root`: the machine's folder below a temporary one; its spelling reaches every variable.
+    explicit ExtMachine(const QString& root = QStringLiteral("machine"))
         : ForwardingPlatform(m_sandbox)
-        , m_sandbox(QDir(m_dir.path()).filePath(QStringLiteral("machine")).toStdWString())
+        , m_sandbox((m_dir.path() + QLatin1Char('/') + root).toStdWString())
     {
         platform::setCurrent(this);
     }

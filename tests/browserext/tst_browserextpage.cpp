@@ -297,6 +297,27 @@ private slots:
         QCOMPARE(firefox->findChild<QLabel*>("BrowserGroupArrow")->text(), QStringLiteral("▶"));
         QVERIFY(!rowNamed(*page, "Grabber")->isVisibleTo(page.get()));
     }
+
+    void avatarShowsTheNamesFirstCharacter_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("initial");
+        QTest::newRow("letter") << "quick Notes"
+                                << "Q";
+        QTest::newRow("leading space") << "  ad"
+                                       << "A";
+        QTest::newRow("Chinese") << "网页翻译"
+                                 << "网";
+        QTest::newRow("emoji outside the basic plane") << "🔥 Fire"
+                                                       << "🔥";
+    }
+    void avatarShowsTheNamesFirstCharacter()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, initial);
+        const BrowserExtRow row({ "Google Chrome", QString(32, 'a'), name, {}, "1", {}, true });
+        QCOMPARE(row.findChild<QLabel*>("BrowserExtAvatar")->text(), initial);
+    }
 };
 
 QTEST_MAIN(tst_BrowserExtPage)

@@ -1,9 +1,14 @@
 #include "browserext/browserextremover.h"
+#include "browserext/browserextscanner.h"
 #include "extmachine.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 namespace {
 
@@ -110,6 +115,69 @@ private slots:
         QCOMPARE(m.read(file), text);
     }
 
+    // Whatever a file holds, it is either left byte for byte or replaced by a document that every
+    // last-key-wins reader (browsers, Qt) sees as the original with the extension turned off.
+    void hostileFilesAreNeverBroken_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<bool>("patched");
+        const QByteArray id = Id.toLatin1();
+        const QByteArray head = "{\"extensions\":{\"settings\":{\"" + id + "\":";
+        QTest::newRow("unbalanced nesting") << head + QByteArray(200000, '[') << false;
+        QTest::newRow("nesting beyond the reader's limit")
+            << head + "{\"state\":1},\"x\":" + QByteArray(5000, '[') + QByteArray(5000, ']') + "}}}" << false;
+        QTest::newRow("deep but readable nesting")
+            << head + "{\"state\":1},\"x\":" + QByteArray(500, '[') + QByteArray(500, ']') + "}}}" << true;
+        QTest::newRow("unterminated string") << head + "{\"state\":1}},\"x\":\"abc" << false;
+        QTest::newRow("string ending in a backslash") << head + "{\"state\":1}},\"x\":\"abc\\" << false;
+        QTest::newRow("unknown escape") << head + "{\"state\":1}},\"x\":\"\\q\"}}" << false;
+        // Forgiven by some readers, refused by a browser's: such a file is not ours to rewrite.
+        QTest::newRow("raw control character in a string") << head + "{\"state\":1}},\"x\":\"a\tb\"}}" << false;
+        QTest::newRow("number ending in a point") << head + "{\"state\":1}},\"x\":1.}}" << false;
+        QTest::newRow("number starting with a point") << head + "{\"state\":1}},\"x\":.5}}" << false;
+        QTest::newRow("every kind of value")
+            << head + "{\"state\":1}},\"x\":[true,false,null,-0.5E+3,0,1e-2,\"\\/\\u00e9\\b\",{},[],{\"\":[{}]}]}}"
+            << true;
+        QTest::newRow("brackets and quotes inside strings")
+            << "{\"extensions\":{\"settings\":{\"a\\\"}]{[\":\"]}\\\\\",\"" + id
+                + "\":{\"state\":1,\"s\":\"{[\\\"\"}}}}"
+            << true;
+        QTest::newRow("ID spelt with escapes")
+            << "{\"extensions\":{\"settings\":{\"\\u0061" + id.mid(1) + "\":{\"state\":1}}}}" << true;
+        QTest::newRow("entry named twice") << head + "{\"state\":1},\"" + id + "\":{\"state\":2}}}}" << true;
+        QTest::newRow("state named twice") << head + "{\"state\":1,\"disable_reasons\":4,\"state\":1}}}}" << true;
+        QTest::newRow("extensions named twice")
+            << "{\"extensions\":{\"settings\":{}}," + head.mid(1) + "{\"state\":1}}}}" << true;
+        QTest::newRow("numbers beyond any double")
+            << head + "{\"state\":1,\"n\":" + QByteArray(300, '9') + ",\"e\":-1.5e-300}}}}" << true;
+        QTest::newRow("number overflowing a double") << head + "{\"state\":1,\"n\":1e999}}}}" << false;
+        QTest::newRow("lone surrogate escape") << head + "{\"state\":1,\"s\":\"\\ud800\"}}}}" << true;
+        QTest::newRow("invalid UTF-8") << head + "{\"state\":1,\"s\":\"\xff\xfe\"}}}}" << false;
+        QTest::newRow("NUL between values") << head + "{\"state\":1}}}" + QByteArray(1, '\0') + "}" << false;
+        QTest::newRow("two documents") << head + "{\"state\":1}}}}{}" << false;
+        QTest::newRow("byte-order mark alone") << QByteArray("\xEF\xBB\xBF") << false;
+    }
+    void hostileFilesAreNeverBroken()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(bool, patched);
+        ExtMachine m;
+        const QString file = m.local("Preferences");
+        QVERIFY(m.write(file, text));
+        QCOMPARE(BrowserExtRemover::patchPreferences(file, Id), patched);
+        const QByteArray written = m.read(file);
+        if (!patched) {
+            QCOMPARE(written, text);
+            return;
+        }
+        QJsonParseError error;
+        const QJsonObject root = QJsonDocument::fromJson(written, &error).object();
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        const QJsonObject entry = root.value("extensions").toObject().value("settings").toObject().value(Id).toObject();
+        QCOMPARE(entry.value("state").toVariant(), QVariant(0));
+        QCOMPARE(entry.value("disable_reasons").toVariant(), QVariant(1));
+    }
+
     // Far beyond any real profile file, though well formed: not read, so neither trusted nor rewritten.
     void aFileBeyondTheSizeLimitIsLeftAlone()
     {
@@ -120,6 +188,21 @@ private slots:
         QVERIFY(!BrowserExtRemover::patchPreferences(file, Id));
         QCOMPARE(QFileInfo(file).size(), text.size());
     }
+
+#ifdef Q_OS_UNIX
+    // A pipe in a file's place would block the first read until someone writes to it.
+    void aPipeInAFilesPlaceIsNotOpened()
+    {
+        ExtMachine m;
+        const QString profile = m.local("Google/Chrome/User Data/Default");
+        QVERIFY(QDir().mkpath(profile + "/Extensions/" + Id + "/1_0"));
+        QCOMPARE(::mkfifo(QFile::encodeName(profile + "/Preferences").constData(), 0600), 0);
+        QCOMPARE(
+            ::mkfifo(QFile::encodeName(profile + "/Extensions/" + Id + "/1_0/manifest.json").constData(), 0600), 0);
+        QVERIFY(!BrowserExtRemover::patchPreferences(profile + "/Preferences", Id));
+        QVERIFY(!BrowserExtScanner::readJsonObject(profile + "/Preferences").contains("extensions"));
+    }
+#endif
 
     void removesFromChromeProfiles()
     {
@@ -170,7 +253,7 @@ private slots:
             << QStringList { "Google/Chrome/User Data/Default/Preferences|{}" } << QStringList() << Id << false
             << "Google Chrome profile directory not found (tried: @/Google/Chrome/User Data, @/Google/Chrome Beta/User "
                "Data, @/Google/Chrome Dev/User Data, @/Google/Chrome SxS/User Data)";
-        for (const char* id : { "", ".", "..", "../Default", "a\\b", "C:x" })
+        for (const char* id : { "", ".", "..", "../Default", "a\\b", "C:x", "a*", "a?", "x.", "x ", "a|b" })
             QTest::newRow(qPrintable(QStringLiteral("unsafe ID \"%1\"").arg(id)))
                 << QStringList { folder, stable + "Preferences|{}" } << QStringList() << QString(id) << false
                 << "Invalid extension ID";

@@ -257,27 +257,39 @@ private slots:
     {
         QTest::addColumn<QByteArray>("icons");
         QTest::addColumn<QString>("expected"); // "@" stands for the add-on's unpacked folder
+        QTest::addColumn<QString>("root");
         QTest::newRow("largest size wins")
-            << QByteArray("{\"32\":\"/i/32.png\",\"96\":\"/i/96.png\",\"64\":\"/i/64.png\"}") << "/i/96.png";
+            << QByteArray("{\"32\":\"/i/32.png\",\"96\":\"/i/96.png\",\"64\":\"/i/64.png\"}") << "/i/96.png"
+            << "machine";
         QTest::newRow("keys that are no sizes are never chosen")
-            << QByteArray("{\"big\":\"/i/big.png\",\"-500\":\"/i/neg.png\",\"16\":\"/i/16.png\"}") << "/i/16.png";
+            << QByteArray("{\"big\":\"/i/big.png\",\"-500\":\"/i/neg.png\",\"16\":\"/i/16.png\"}") << "/i/16.png"
+            << "machine";
         QTest::newRow("jar URL is not usable")
-            << QByteArray("{\"48\":\"/i/48.png\",\"64\":\"jar:file:///x.xpi!/i.png\"}") << "";
-        QTest::newRow("relative to the unpacked add-on") << QByteArray("{\"48\":\"icons/48.png\"}") << "@/icons/48.png";
-        QTest::newRow("relative path that climbs") << QByteArray("{\"48\":\"../../extensions.json\"}") << "";
+            << QByteArray("{\"48\":\"/i/48.png\",\"64\":\"jar:file:///x.xpi!/i.png\"}") << ""
+            << "machine";
+        QTest::newRow("relative to the unpacked add-on") << QByteArray("{\"48\":\"icons/48.png\"}") << "@/icons/48.png"
+                                                         << "machine";
+        // On Windows the variable reads C:\Users\...: the profile path is not clean.
+        QTest::newRow("relative, below a roaming folder that is not clean")
+            << QByteArray("{\"48\":\"icons/48.png\"}") << "@/icons/48.png"
+            << "x//machine";
+        QTest::newRow("relative path that climbs") << QByteArray("{\"48\":\"../../extensions.json\"}") << ""
+                                                   << "machine";
     }
     void choosesTheLargestFirefoxIcon()
     {
         QFETCH(QByteArray, icons);
         QFETCH(QString, expected);
-        ExtMachine m;
+        QFETCH(QString, root);
+        ExtMachine m(root);
         const QString profile = m.roaming("Mozilla/Firefox/Profiles/p1.default");
         QVERIFY(m.write(profile + "/extensions/a@x/icons/48.png", "png"));
         QVERIFY(m.write(profile + "/extensions.json",
             "{\"addons\":[{\"id\":\"a@x\",\"type\":\"extension\",\"icons\":" + icons + "}]}"));
         const QList<BrowserExt> list = scan();
         QCOMPARE(list.size(), 1);
-        QCOMPARE(list[0].iconPath, QString(expected).replace(QLatin1Char('@'), profile + "/extensions/a@x"));
+        QCOMPARE(list[0].iconPath,
+            QDir::cleanPath(QString(expected).replace(QLatin1Char('@'), profile + "/extensions/a@x")));
     }
 
     void survivesFirefoxFilesOfTheWrongShape()
