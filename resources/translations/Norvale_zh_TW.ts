@@ -363,11 +363,11 @@
     </message>
     <message>
         <source>已运行 %1 小时 %2 分钟</source>
-        <translation>已執行 %1 小時 %2 分鐘</translation>
+        <translation>已開機 %1 小時 %2 分鐘</translation>
     </message>
     <message>
         <source>已运行 %1 天 %2 小时</source>
-        <translation>已執行 %1 天 %2 小時</translation>
+        <translation>已開機 %1 天 %2 小時</translation>
     </message>
 </context>
 <context>
