@@ -6,6 +6,7 @@
 #include "platform/registry.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,5 +44,11 @@ std::unique_ptr<platform::Environment> makeContractEnvironment();
 // Sets or removes (nullopt) a variable of an environment made above.
 void setContractVariable(
     platform::Environment& environment, const std::wstring& name, const std::optional<std::wstring>& value);
+
+// A link to a folder, made as the lane can: a symbolic link natively; under Wine, which cannot
+// make Windows links, a Unix link inside the prefix, which Win32 then shows as a reparse point.
+bool makeLink(const std::filesystem::path& target, const std::filesystem::path& link);
+// Whether the path is itself a link (a reparse point under Wine), whatever it points at.
+bool isLink(const std::filesystem::path& path);
 
 } // namespace contract

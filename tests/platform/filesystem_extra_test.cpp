@@ -7,6 +7,8 @@
 #include "platform/sandbox/sandboxfilesystem.h"
 #endif
 
+#include "contract.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -18,56 +20,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-#ifdef _WIN32
-// As in the main file-system contract: the link is made from the Unix side of Wine.
-std::string unixPath(const fs::path& path)
-{
-    using UnixNameFn = char*(CDECL*)(LPCWSTR);
-    static const auto fn = reinterpret_cast<UnixNameFn>(
-        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
-    char* name = fn ? fn(path.wstring().c_str()) : nullptr;
-    const std::string result = name ? name : "";
-    if (name)
-        ::HeapFree(::GetProcessHeap(), 0, name);
-    return result;
-}
-
-bool isLink(const fs::path& path)
-{
-    const DWORD attributes = ::GetFileAttributesW(path.wstring().c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
-}
-
-bool makeLink(const fs::path& target, const fs::path& link)
-{
-    const std::string from = unixPath(target), to = unixPath(link);
-    if (from.empty() || to.empty() || (from + to).find(' ') != std::string::npos)
-        return false;
-    std::wstring command = L"Z:\\bin\\ln -s " + fs::path(from).wstring() + L" " + fs::path(to).wstring();
-    STARTUPINFOW startup {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process {};
-    if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
-        return false;
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
-    for (int waitedMs = 0; waitedMs < 10000 && !isLink(link); waitedMs += 20)
-        ::Sleep(20);
-    return isLink(link);
-}
-#else
-bool isLink(const fs::path& path)
-{
-    return fs::is_symlink(fs::symlink_status(path));
-}
-
-bool makeLink(const fs::path& target, const fs::path& link)
-{
-    std::error_code error;
-    fs::create_directory_symlink(target, link, error);
-    return !error;
-}
-#endif
+using contract::isLink;
+using contract::makeLink;
 
 class FileSystemExtraContract : public ::testing::Test {
 protected:

@@ -7,6 +7,8 @@
 #include "platform/sandbox/sandboxfilesystem.h"
 #endif
 
+#include "contract.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -19,47 +21,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
+using contract::isLink;
+using contract::makeLink;
+
 #ifdef _WIN32
-// Wine cannot create Windows links, but a Unix symbolic link inside the prefix shows through the
-// Win32 API as a folder reparse point, so the link is made from the Unix side.
-std::string unixPath(const fs::path& path)
-{
-    using UnixNameFn = char*(CDECL*)(LPCWSTR);
-    static const auto fn = reinterpret_cast<UnixNameFn>(
-        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
-    char* name = fn ? fn(path.wstring().c_str()) : nullptr;
-    const std::string result = name ? name : "";
-    if (name)
-        ::HeapFree(::GetProcessHeap(), 0, name);
-    return result;
-}
-
-bool isLink(const fs::path& path)
-{
-    const DWORD attributes = ::GetFileAttributesW(path.wstring().c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
-}
-
-// Wine starts Unix programs given by their Z: path, but the handle it returns for one cannot be
-// waited on, so the link itself is watched until it shows up.
-bool makeLink(const fs::path& target, const fs::path& link)
-{
-    const std::string from = unixPath(target), to = unixPath(link);
-    if (from.empty() || to.empty() || (from + to).find(' ') != std::string::npos)
-        return false;
-    std::wstring command = L"Z:\\bin\\ln -s " + fs::path(from).wstring() + L" " + fs::path(to).wstring();
-    STARTUPINFOW startup {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process {};
-    if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
-        return false;
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
-    for (int waitedMs = 0; waitedMs < 10000 && !isLink(link); waitedMs += 20)
-        ::Sleep(20);
-    return isLink(link);
-}
-
 // Wine 8 opens a Unix link as its target even when told to open the link itself (the handle then
 // shows a plain folder, and a delete disposition on it deletes an empty target), so no Win32 or
 // NT call there removes such a link.
@@ -80,24 +45,12 @@ bool linksAreOpenedAsTargets()
     return false;
 }
 
-bool isLink(const fs::path& path)
-{
-    return fs::is_symlink(fs::symlink_status(path));
-}
-
 // The sandbox reads a file its owner may not write as Windows reads the read-only attribute.
 bool makeReadOnly(const fs::path& path)
 {
     std::error_code error;
     fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
         fs::perm_options::remove, error);
-    return !error;
-}
-
-bool makeLink(const fs::path& target, const fs::path& link)
-{
-    std::error_code error;
-    fs::create_directory_symlink(target, link, error);
     return !error;
 }
 #endif

@@ -89,4 +89,16 @@ void setContractVariable(
     static_cast<platform::SandboxEnvironment&>(environment).setVariable(name, value);
 }
 
+bool makeLink(const std::filesystem::path& target, const std::filesystem::path& link)
+{
+    std::error_code error;
+    std::filesystem::create_directory_symlink(target, link, error);
+    return !error;
+}
+
+bool isLink(const std::filesystem::path& path)
+{
+    return std::filesystem::is_symlink(std::filesystem::symlink_status(path));
+}
+
 } // namespace contract

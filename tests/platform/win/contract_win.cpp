@@ -83,4 +83,47 @@ void setContractVariable(platform::Environment&, const std::wstring& name, const
     ::SetEnvironmentVariableW(name.c_str(), value ? value->c_str() : nullptr);
 }
 
+namespace {
+
+std::string unixPath(const std::filesystem::path& path)
+{
+    using UnixNameFn = char*(CDECL*)(LPCWSTR);
+    static const auto fn = reinterpret_cast<UnixNameFn>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name")));
+    char* name = fn ? fn(path.wstring().c_str()) : nullptr;
+    const std::string result = name ? name : "";
+    if (name)
+        ::HeapFree(::GetProcessHeap(), 0, name);
+    return result;
+}
+
+} // namespace
+
+bool isLink(const std::filesystem::path& path)
+{
+    const DWORD attributes = ::GetFileAttributesW(path.wstring().c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT);
+}
+
+// Wine starts Unix programs given by their Z: path, but the handle it returns for one cannot be
+// waited on, so the link itself is watched until it shows up.
+bool makeLink(const std::filesystem::path& target, const std::filesystem::path& link)
+{
+    const std::string from = unixPath(target), to = unixPath(link);
+    if (from.empty() || to.empty() || (from + to).find(' ') != std::string::npos)
+        return false;
+    std::wstring command
+        = L"Z:\\bin\\ln -s " + std::filesystem::path(from).wstring() + L" " + std::filesystem::path(to).wstring();
+    STARTUPINFOW startup {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process {};
+    if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+        return false;
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    for (int waitedMs = 0; waitedMs < 10000 && !isLink(link); waitedMs += 20)
+        ::Sleep(20);
+    return isLink(link);
+}
+
 } // namespace contract
