@@ -1,5 +1,7 @@
 #include "winapprow.h"
 
+#include "widgets/mirror.h"
+
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QImage>
@@ -43,7 +45,7 @@ WinAppRow::WinAppRow(const WinApp& app, QWidget* parent)
 
     auto* layout = new QHBoxLayout(this);
     // The left margin leaves room for the painted check box.
-    layout->setContentsMargins(CheckColumn, 0, 12, 0);
+    Mirror::keepMarginsMirrored(this, layout, QMargins(CheckColumn, 0, 12, 0));
     layout->setSpacing(ColumnSpacing);
 
     layout->addWidget(makeAvatar());
@@ -130,7 +132,8 @@ void WinAppRow::paintEvent(QPaintEvent*)
     painter.setBrush(m_selected ? QColor(0xef, 0xf6, 0xff) : QColor(Qt::white));
     painter.drawRoundedRect(frame, CornerRadius, CornerRadius);
 
-    const QRectF box(CheckBoxLeft, height() / 2 - CheckBoxSide / 2, CheckBoxSide, CheckBoxSide);
+    const QRectF box
+        = Mirror::place(this, QRectF(CheckBoxLeft, height() / 2 - CheckBoxSide / 2, CheckBoxSide, CheckBoxSide));
     if (m_selected) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(0x3b, 0x82, 0xf6));

@@ -1,6 +1,7 @@
 #include "winappspage.h"
 
 #include "processrunner.h"
+#include "widgets/mirror.h"
 #include "winappremover.h"
 #include "winapprow.h"
 #include "winappscanner.h"
@@ -49,6 +50,9 @@ QLabel* columnLabel(const QString& text, int width, QWidget* parent)
 {
     auto* label = new QLabel(text, parent);
     label->setStyleSheet(QStringLiteral("font-size:12px; font-weight:600; color:#64748b; background:transparent;"));
+    // The columns are as wide as their data; a heading longer than that in some language takes a
+    // second line rather than being cut off.
+    label->setWordWrap(true);
     if (width > 0)
         label->setFixedWidth(width);
     return label;
@@ -200,7 +204,7 @@ QWidget* WinAppsPage::createColumnHeader()
     columns->setFixedHeight(34);
     auto* layout = new QHBoxLayout(columns);
     // Lines up with the rows: the rows' own margin inside the scroll area plus their check column.
-    layout->setContentsMargins(16 + WinAppRow::CheckColumn, 0, 16 + 12 + 10, 0);
+    Mirror::keepMarginsMirrored(columns, layout, QMargins(16 + WinAppRow::CheckColumn, 0, 16 + 12 + 10, 0));
     layout->setSpacing(WinAppRow::ColumnSpacing);
     layout->addWidget(columnLabel(tr("名称"), 0, columns), 1);
     layout->addWidget(columnLabel(tr("发行者"), WinAppRow::PublisherColumn, columns));
