@@ -26,7 +26,7 @@ public:
     static constexpr int CheckColumn = 40;
     static constexpr int PublisherColumn = 132;
     static constexpr int VersionColumn = 116;
-    static constexpr int DateColumn = 78;
+    static constexpr int DateColumn = 96;
     static constexpr int SizeColumn = 62;
     static constexpr int ActionColumn = 60;
     static constexpr int ColumnSpacing = 8;
