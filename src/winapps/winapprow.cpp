@@ -69,7 +69,7 @@ WinAppRow::WinAppRow(const WinApp& app, QWidget* parent)
     auto* remove = new QPushButton(tr("移除"), this);
     remove->setObjectName(QStringLiteral("WinAppRowRemove"));
     remove->setCursor(Qt::PointingHandCursor);
-    remove->setFixedSize(ActionColumn - 8, 26);
+    remove->setFixedSize(actionColumnWidth() - 8, 26);
     remove->setStyleSheet(
         QStringLiteral("QPushButton { background:#fee2e2; color:#dc2626; border:none; border-radius:5px;"
                        " font-size:12px; font-weight:600; }"
@@ -77,6 +77,15 @@ WinAppRow::WinAppRow(const WinApp& app, QWidget* parent)
     connect(remove, &QPushButton::clicked, this, [this] { emit removeRequested(m_app); });
     layout->addWidget(remove);
     layout->addSpacing(8);
+}
+
+int WinAppRow::actionColumnWidth()
+{
+    QFont font;
+    font.setPixelSize(12);
+    font.setWeight(QFont::DemiBold);
+    const int textWidth = QFontMetrics(font).horizontalAdvance(tr("移除"));
+    return qMax(ActionColumn, textWidth + 2 * 8 + 8);
 }
 
 QColor WinAppRow::avatarColor(const QString& displayName)

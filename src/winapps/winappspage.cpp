@@ -131,7 +131,10 @@ QWidget* WinAppsPage::createHeader()
     m_searchEdit->setObjectName(QStringLiteral("WinAppsSearch"));
     m_searchEdit->setPlaceholderText(tr("搜索应用..."));
     m_searchEdit->setClearButtonEnabled(true);
-    m_searchEdit->setFixedWidth(240);
+    // Gives way before the title and the count do, when a language needs the room.
+    m_searchEdit->setMinimumWidth(140);
+    m_searchEdit->setMaximumWidth(240);
+    m_searchEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_searchEdit->setStyleSheet(QStringLiteral("QLineEdit { background:#f1f5f9; border:1px solid #e2e8f0;"
                                                " border-radius:8px; padding:0 10px; min-height:32px; font-size:13px; }"
                                                "QLineEdit:focus { background:#ffffff; border:1px solid #93c5fd; }"));
@@ -211,7 +214,7 @@ QWidget* WinAppsPage::createColumnHeader()
     layout->addWidget(columnLabel(tr("版本"), WinAppRow::VersionColumn, columns));
     layout->addWidget(columnLabel(tr("安装日期"), WinAppRow::DateColumn, columns));
     layout->addWidget(columnLabel(tr("大小"), WinAppRow::SizeColumn, columns));
-    layout->addSpacing(WinAppRow::ActionColumn + 8);
+    layout->addSpacing(WinAppRow::actionColumnWidth() + 8);
     return columns;
 }
 
