@@ -374,94 +374,94 @@
     <name>ForceRemoveDialog</name>
     <message>
         <source>Force Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Force Remove</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>🗑  Force Remove Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>🗑  Force Remove Selected</translation>
     </message>
     <message>
         <source>Forcefully removing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Forcefully removing: %1</translation>
     </message>
     <message>
         <source>Scanning for removal targets...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning for removal targets...</translation>
     </message>
     <message>
         <source>⚠  Review each item carefully. High-risk items are unchecked by default.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠  Review each item carefully. High-risk items are unchecked by default.</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Select All</translation>
     </message>
     <message>
         <source>Deselect All</source>
-        <translation type="unfinished"></translation>
+        <translation>Deselect All</translation>
     </message>
     <message>
         <source>✅  Nothing found to remove.</source>
-        <translation type="unfinished"></translation>
+        <translation>✅  Nothing found to remove.</translation>
     </message>
     <message>
         <source>Removing selected items...</source>
-        <translation type="unfinished"></translation>
+        <translation>Removing selected items...</translation>
     </message>
     <message>
         <source>Force remove complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Force remove complete</translation>
     </message>
     <message>
         <source>The application and its associated files have been removed.</source>
-        <translation type="unfinished"></translation>
+        <translation>The application and its associated files have been removed.</translation>
     </message>
     <message>
         <source>Install location %1 is a system or user folder: it is left alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Install location %1 is a system or user folder: it is left alone.</translation>
     </message>
     <message>
         <source>Nothing found to remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing found to remove</translation>
     </message>
     <message>
         <source>Found &lt;b&gt;%1&lt;/b&gt; items  ·  &lt;b&gt;%2&lt;/b&gt; reclaimable</source>
-        <translation type="unfinished"></translation>
+        <translation>Found &lt;b&gt;%1&lt;/b&gt; items  ·  &lt;b&gt;%2&lt;/b&gt; reclaimable</translation>
     </message>
     <message>
         <source>Starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Starting...</translation>
     </message>
     <message>
         <source>Force remove complete  ·  freed &lt;b&gt;%1&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Force remove complete  ·  freed &lt;b&gt;%1&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Done ✓</source>
-        <translation type="unfinished"></translation>
+        <translation>Done ✓</translation>
     </message>
 </context>
 <context>
     <name>ForceRemoveRowWidget</name>
     <message>
         <source>Install Dir</source>
-        <translation type="unfinished"></translation>
+        <translation>Install Dir</translation>
     </message>
     <message>
         <source>App Data</source>
-        <translation type="unfinished"></translation>
+        <translation>App Data</translation>
     </message>
     <message>
         <source>Registry</source>
-        <translation type="unfinished"></translation>
+        <translation>Registry</translation>
     </message>
     <message>
         <source>Startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Startup</translation>
     </message>
     <message>
         <source>Startup Lnk</source>
@@ -469,86 +469,86 @@
     </message>
     <message>
         <source>Scheduled Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Scheduled Task</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>Service</translation>
     </message>
     <message>
         <source>⚠ High Risk</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ High Risk</translation>
     </message>
 </context>
 <context>
     <name>ForceRemoveScanner</name>
     <message>
         <source>Killing processes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Killing processes...</translation>
     </message>
     <message>
         <source>Scanning install directory...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning install directory...</translation>
     </message>
     <message>
         <source>Scanning app data...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning app data...</translation>
     </message>
     <message>
         <source>Scanning registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning registry...</translation>
     </message>
     <message>
         <source>Scanning startup items...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning startup items...</translation>
     </message>
     <message>
         <source>Scanning scheduled tasks...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning scheduled tasks...</translation>
     </message>
     <message>
         <source>Scanning services...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning services...</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Done</translation>
     </message>
     <message>
         <source>Install folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Install folder: %1</translation>
     </message>
     <message>
         <source>App data: .../%1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>App data: .../%1/%2</translation>
     </message>
     <message>
         <source>Registry uninstall entry: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Registry uninstall entry: %1</translation>
     </message>
     <message>
         <source>Startup registry: %1 → %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Startup registry: %1 → %2</translation>
     </message>
     <message>
         <source>Startup shortcut: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Startup shortcut: %1</translation>
     </message>
     <message>
         <source>Scheduled task: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Scheduled task: %1</translation>
     </message>
     <message>
         <source>Windows service: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows service: %1 (%2)</translation>
     </message>
     <message>
         <source>Removing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Removing: %1</translation>
     </message>
     <message>
         <source>Done: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Done: %1</translation>
     </message>
 </context>
 <context>
@@ -584,24 +584,25 @@ Please copy the link and open it manually:
     <name>MainWindow</name>
     <message>
         <source>About Norvale</source>
-        <translation type="unfinished"></translation>
+        <translation>About Norvale</translation>
     </message>
     <message>
         <source>Language Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Language Changed</translation>
     </message>
     <message>
         <source>Language changed to: %1
 The application will restart now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Language changed to: %1
+The application will restart now.</translation>
     </message>
     <message>
         <source>Restart Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Restart Failed</translation>
     </message>
     <message>
         <source>Please restart the application manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Please restart the application manually.</translation>
     </message>
 </context>
 <context>
@@ -1106,6 +1107,14 @@ This action cannot be undone.</translation>
     <message>
         <source>失败详情：&lt;br&gt;%1&lt;br&gt;&lt;br&gt;系统预装应用（如 Edge、Photos）可能受保护，无法通过此方式移除。</source>
         <translation>Failure details:&lt;br&gt;%1&lt;br&gt;&lt;br&gt;System pre-installed apps (such as Edge, Photos) may be protected and cannot be removed in this way.</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <translation>LTR</translation>
     </message>
 </context>
 </TS>

@@ -5,369 +5,369 @@
     <name>BrowserExtPage</name>
     <message>
         <source>正在移除「%1」... (%2/%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>正在移除「%1」... (%2/%3)</translation>
     </message>
     <message>
         <source>未找到浏览器扩展</source>
-        <translation type="unfinished"></translation>
+        <translation>未找到浏览器扩展</translation>
     </message>
     <message>
         <source>浏览器扩展</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览器扩展</translation>
     </message>
     <message>
         <source>搜索扩展...</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索扩展...</translation>
     </message>
     <message>
         <source>↻ 刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>↻ 刷新</translation>
     </message>
     <message>
         <source>请稍候...</source>
-        <translation type="unfinished"></translation>
+        <translation>请稍候...</translation>
     </message>
     <message>
         <source>正在扫描浏览器扩展...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在扫描浏览器扩展...</translation>
     </message>
     <message>
         <source>正在扫描...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在扫描...</translation>
     </message>
     <message>
         <source>显示 %1 / %2 个扩展</source>
-        <translation type="unfinished"></translation>
+        <translation>显示 %1 / %2 个扩展</translation>
     </message>
     <message>
         <source>共 %1 个扩展</source>
-        <translation type="unfinished"></translation>
+        <translation>共 %1 个扩展</translation>
     </message>
     <message>
         <source>🗑  移除所选 (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>🗑  移除所选 (%1)</translation>
     </message>
     <message>
         <source>🗑  移除所选</source>
-        <translation type="unfinished"></translation>
+        <translation>🗑  移除所选</translation>
     </message>
     <message>
         <source>浏览器正在运行</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览器正在运行</translation>
     </message>
     <message>
         <source>以下浏览器有后台进程仍在运行：&lt;br&gt;&lt;b&gt;%1&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>以下浏览器有后台进程仍在运行：&lt;br&gt;&lt;b&gt;%1&lt;/b&gt;</translation>
     </message>
     <message>
         <source>、</source>
-        <translation type="unfinished"></translation>
+        <translation>、</translation>
     </message>
     <message>
         <source>点击「强制结束」自动终止所有相关进程后继续移除，或手动关闭后点「重试」。</source>
-        <translation type="unfinished"></translation>
+        <translation>点击「强制结束」自动终止所有相关进程后继续移除，或手动关闭后点「重试」。</translation>
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; 有后台进程仍在运行。</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;%1&lt;/b&gt; 有后台进程仍在运行。</translation>
     </message>
     <message>
         <source>关闭浏览器窗口后，后台进程可能仍然存在，请点击「强制结束」自动终止，或手动关闭后点「重试」。</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭浏览器窗口后，后台进程可能仍然存在，请点击「强制结束」自动终止，或手动关闭后点「重试」。</translation>
     </message>
     <message>
         <source>强制结束并移除</source>
-        <translation type="unfinished"></translation>
+        <translation>强制结束并移除</translation>
     </message>
     <message>
         <source>重试</source>
-        <translation type="unfinished"></translation>
+        <translation>重试</translation>
     </message>
     <message>
         <source>取消</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>无法完全终止：%1&lt;br&gt;请在任务管理器中手动结束后重试。</source>
-        <translation type="unfinished"></translation>
+        <translation>无法完全终止：%1&lt;br&gt;请在任务管理器中手动结束后重试。</translation>
     </message>
     <message>
         <source>无法完全终止 %1，请手动在任务管理器中结束所有 %2 进程后重试。</source>
-        <translation type="unfinished"></translation>
+        <translation>无法完全终止 %1，请手动在任务管理器中结束所有 %2 进程后重试。</translation>
     </message>
     <message>
         <source>无法终止进程</source>
-        <translation type="unfinished"></translation>
+        <translation>无法终止进程</translation>
     </message>
     <message>
         <source>移除扩展</source>
-        <translation type="unfinished"></translation>
+        <translation>移除扩展</translation>
     </message>
     <message>
         <source>确定要移除 &lt;b&gt;%1&lt;/b&gt;？&lt;br&gt;&lt;span style=&apos;font-size:11px; color:#94a3b8;&apos;&gt;将打开 %2 扩展管理页并复制扩展 ID&lt;/span&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>确定要移除 &lt;b&gt;%1&lt;/b&gt;？&lt;br&gt;&lt;span style=&apos;font-size:11px; color:#94a3b8;&apos;&gt;将打开 %2 扩展管理页并复制扩展 ID&lt;/span&gt;</translation>
     </message>
     <message>
         <source>正在移除扩展...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在移除扩展...</translation>
     </message>
     <message>
         <source>✓ 已移除「%1」</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ 已移除「%1」</translation>
     </message>
     <message>
         <source>自动移除失败</source>
-        <translation type="unfinished"></translation>
+        <translation>自动移除失败</translation>
     </message>
     <message>
         <source>无法自动移除 &lt;b&gt;%1&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>无法自动移除 &lt;b&gt;%1&lt;/b&gt;</translation>
     </message>
     <message>
         <source>已打开 %1 扩展管理页面。&lt;br&gt;扩展 ID 已复制到剪贴板：&lt;br&gt;&lt;span style=&apos;font-family:monospace;color:#2563eb;&apos;&gt;%2&lt;/span&gt;&lt;br&gt;&lt;br&gt;手动移除后请点击&lt;b&gt;刷新&lt;/b&gt;。</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开 %1 扩展管理页面。&lt;br&gt;扩展 ID 已复制到剪贴板：&lt;br&gt;&lt;span style=&apos;font-family:monospace;color:#2563eb;&apos;&gt;%2&lt;/span&gt;&lt;br&gt;&lt;br&gt;手动移除后请点击&lt;b&gt;刷新&lt;/b&gt;。</translation>
     </message>
     <message>
         <source>批量移除</source>
-        <translation type="unfinished"></translation>
+        <translation>批量移除</translation>
     </message>
     <message>
         <source>确定要移除选中的 &lt;b&gt;%1&lt;/b&gt; 个扩展？</source>
-        <translation type="unfinished"></translation>
+        <translation>确定要移除选中的 &lt;b&gt;%1&lt;/b&gt; 个扩展？</translation>
     </message>
     <message>
         <source>正在移除 %1 个扩展...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在移除 %1 个扩展...</translation>
     </message>
     <message>
         <source>移除完成</source>
-        <translation type="unfinished"></translation>
+        <translation>移除完成</translation>
     </message>
     <message>
         <source>成功移除 &lt;b&gt;%1&lt;/b&gt; 个扩展。</source>
-        <translation type="unfinished"></translation>
+        <translation>成功移除 &lt;b&gt;%1&lt;/b&gt; 个扩展。</translation>
     </message>
     <message>
         <source>列表将自动刷新。</source>
-        <translation type="unfinished"></translation>
+        <translation>列表将自动刷新。</translation>
     </message>
     <message>
         <source>部分移除失败</source>
-        <translation type="unfinished"></translation>
+        <translation>部分移除失败</translation>
     </message>
     <message>
         <source>成功 &lt;b&gt;%1&lt;/b&gt; 个，失败 &lt;b&gt;%2&lt;/b&gt; 个。</source>
-        <translation type="unfinished"></translation>
+        <translation>成功 &lt;b&gt;%1&lt;/b&gt; 个，失败 &lt;b&gt;%2&lt;/b&gt; 个。</translation>
     </message>
     <message>
         <source>失败项（请手动前往浏览器移除）：&lt;br&gt;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>失败项（请手动前往浏览器移除）：&lt;br&gt;%1</translation>
     </message>
 </context>
 <context>
     <name>BrowserExtRow</name>
     <message>
         <source>已禁用</source>
-        <translation type="unfinished"></translation>
+        <translation>已禁用</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>移除</translation>
     </message>
 </context>
 <context>
     <name>BrowserGroupWidget</name>
     <message>
         <source>%1 个扩展</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 个扩展</translation>
     </message>
 </context>
 <context>
     <name>CleanupPage</name>
     <message>
         <source>磁盘清理</source>
-        <translation type="unfinished"></translation>
+        <translation>磁盘清理</translation>
     </message>
     <message>
         <source>扫描系统垃圾文件，安全释放磁盘空间</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描系统垃圾文件，安全释放磁盘空间</translation>
     </message>
     <message>
         <source>正在扫描…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在扫描…</translation>
     </message>
     <message>
         <source>请稍候</source>
-        <translation type="unfinished"></translation>
+        <translation>请稍候</translation>
     </message>
     <message>
         <source>🔄 重新扫描</source>
-        <translation type="unfinished"></translation>
+        <translation>🔄 重新扫描</translation>
     </message>
     <message>
         <source>☑ 全选</source>
-        <translation type="unfinished"></translation>
+        <translation>☑ 全选</translation>
     </message>
     <message>
         <source>🗑 清理选中项</source>
-        <translation type="unfinished"></translation>
+        <translation>🗑 清理选中项</translation>
     </message>
     <message>
         <source>扫描完成</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描完成</translation>
     </message>
     <message>
         <source>✓ 清理完成，释放 &lt;b&gt;%1&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ 清理完成，释放 &lt;b&gt;%1&lt;/b&gt;</translation>
     </message>
     <message>
         <source>☐ 取消全选</source>
-        <translation type="unfinished"></translation>
+        <translation>☐ 取消全选</translation>
     </message>
     <message>
         <source>已选 &lt;b&gt;%1&lt;/b&gt; 类  ·  预计释放 &lt;b&gt;%2&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>已选 &lt;b&gt;%1&lt;/b&gt; 类  ·  预计释放 &lt;b&gt;%2&lt;/b&gt;</translation>
     </message>
     <message>
         <source>发现 %1 类可清理文件，共 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>发现 %1 类可清理文件，共 %2</translation>
     </message>
     <message>
         <source>已选 %1 类  ·  预计释放 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>已选 %1 类  ·  预计释放 %2</translation>
     </message>
 </context>
 <context>
     <name>CleanupRowWidget</name>
     <message>
         <source>扫描中…</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描中…</translation>
     </message>
 </context>
 <context>
     <name>CleanupScanner</name>
     <message>
         <source>Windows 临时文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows 临时文件</translation>
     </message>
     <message>
         <source>Windows Update 缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows Update 缓存</translation>
     </message>
     <message>
         <source>Google Chrome 缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Google Chrome 缓存</translation>
     </message>
     <message>
         <source>Microsoft Edge 缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsoft Edge 缓存</translation>
     </message>
     <message>
         <source>Mozilla Firefox 缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Mozilla Firefox 缓存</translation>
     </message>
     <message>
         <source>系统日志文件</source>
-        <translation type="unfinished"></translation>
+        <translation>系统日志文件</translation>
     </message>
     <message>
         <source>Prefetch 预读缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>Prefetch 预读缓存</translation>
     </message>
     <message>
         <source>缩略图缓存</source>
-        <translation type="unfinished"></translation>
+        <translation>缩略图缓存</translation>
     </message>
     <message>
         <source>崩溃转储文件</source>
-        <translation type="unfinished"></translation>
+        <translation>崩溃转储文件</translation>
     </message>
     <message>
         <source>回收站</source>
-        <translation type="unfinished"></translation>
+        <translation>回收站</translation>
     </message>
     <message>
         <source>Windows 旧系统备份</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows 旧系统备份</translation>
     </message>
 </context>
 <context>
     <name>DashboardPage</name>
     <message>
         <source>磁盘清理</source>
-        <translation type="unfinished"></translation>
+        <translation>磁盘清理</translation>
     </message>
     <message>
         <source>清理垃圾文件</source>
-        <translation type="unfinished"></translation>
+        <translation>清理垃圾文件</translation>
     </message>
     <message>
         <source>软件卸载</source>
-        <translation type="unfinished"></translation>
+        <translation>软件卸载</translation>
     </message>
     <message>
         <source>管理已装软件</source>
-        <translation type="unfinished"></translation>
+        <translation>管理已装软件</translation>
     </message>
     <message>
         <source>Windows App</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows App</translation>
     </message>
     <message>
         <source>管理UWP应用</source>
-        <translation type="unfinished"></translation>
+        <translation>管理UWP应用</translation>
     </message>
     <message>
         <source>浏览器扩展</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览器扩展</translation>
     </message>
     <message>
         <source>管理扩展插件</source>
-        <translation type="unfinished"></translation>
+        <translation>管理扩展插件</translation>
     </message>
     <message>
         <source>系统概览</source>
-        <translation type="unfinished"></translation>
+        <translation>系统概览</translation>
     </message>
     <message>
         <source>● 实时</source>
-        <translation type="unfinished"></translation>
+        <translation>● 实时</translation>
     </message>
     <message>
         <source>正在读取系统信息…</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读取系统信息…</translation>
     </message>
     <message>
         <source>已安装更新</source>
-        <translation type="unfinished"></translation>
+        <translation>已安装更新</translation>
     </message>
     <message>
         <source>实时性能</source>
-        <translation type="unfinished"></translation>
+        <translation>实时性能</translation>
     </message>
     <message>
         <source>内存</source>
-        <translation type="unfinished"></translation>
+        <translation>内存</translation>
     </message>
     <message>
         <source>磁盘</source>
-        <translation type="unfinished"></translation>
+        <translation>磁盘</translation>
     </message>
     <message>
         <source>快速操作</source>
-        <translation type="unfinished"></translation>
+        <translation>快速操作</translation>
     </message>
     <message>
         <source>%1 核</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 核</translation>
     </message>
     <message>
         <source>已运行 %1 小时 %2 分钟</source>
-        <translation type="unfinished"></translation>
+        <translation>已运行 %1 小时 %2 分钟</translation>
     </message>
     <message>
         <source>已运行 %1 天 %2 小时</source>
-        <translation type="unfinished"></translation>
+        <translation>已运行 %1 天 %2 小时</translation>
     </message>
 </context>
 <context>
@@ -557,22 +557,27 @@
         <source>无法加载页面链接。
 
 请联系技术支持或重新安装软件。</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载页面链接。
+
+请联系技术支持或重新安装软件。</translation>
     </message>
     <message>
         <source>无法打开浏览器</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开浏览器</translation>
     </message>
     <message>
         <source>无法打开默认浏览器。
 
 请手动复制链接访问：
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>无法打开默认浏览器。
+
+请手动复制链接访问：
+%1</translation>
     </message>
     <message>
         <source>配置错误</source>
-        <translation type="unfinished"></translation>
+        <translation>配置错误</translation>
     </message>
 </context>
 <context>
@@ -702,46 +707,46 @@ The application will restart now.</source>
     <name>Sidebar</name>
     <message>
         <source>功能</source>
-        <translation type="unfinished"></translation>
+        <translation>功能</translation>
     </message>
     <message>
         <source>系统概览</source>
-        <translation type="unfinished"></translation>
+        <translation>系统概览</translation>
     </message>
     <message>
         <source>磁盘清理</source>
-        <translation type="unfinished"></translation>
+        <translation>磁盘清理</translation>
     </message>
     <message>
         <source>软件卸载</source>
-        <translation type="unfinished"></translation>
+        <translation>软件卸载</translation>
     </message>
     <message>
         <source>Windows App</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows App</translation>
     </message>
     <message>
         <source>浏览器扩展</source>
-        <translation type="unfinished"></translation>
+        <translation>浏览器扩展</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>菜单</source>
-        <translation type="unfinished"></translation>
+        <translation>菜单</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>最小化</translation>
     </message>
     <message>
         <source>最大化</source>
-        <translation type="unfinished"></translation>
+        <translation>最大化</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>ℹ️  Qbout Norvale</source>
@@ -765,7 +770,7 @@ The application will restart now.</source>
     </message>
     <message>
         <source>还原</source>
-        <translation type="unfinished"></translation>
+        <translation>还原</translation>
     </message>
 </context>
 <context>
@@ -944,159 +949,172 @@ This cannot be undone.</source>
     <name>WinAppRow</name>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>移除</translation>
     </message>
 </context>
 <context>
     <name>WinAppsPage</name>
     <message>
         <source>移除失败（可能需要管理员权限）</source>
-        <translation type="unfinished"></translation>
+        <translation>移除失败（可能需要管理员权限）</translation>
     </message>
     <message>
         <source>系统保护应用，已移除当前用户注册，但系统级组件可能在重启后自动恢复。
 若需彻底删除，请以管理员身份运行本程序。</source>
-        <translation type="unfinished"></translation>
+        <translation>系统保护应用，已移除当前用户注册，但系统级组件可能在重启后自动恢复。
+若需彻底删除，请以管理员身份运行本程序。</translation>
     </message>
     <message>
         <source>Windows 应用</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows 应用</translation>
     </message>
     <message>
         <source>搜索应用...</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索应用...</translation>
     </message>
     <message>
         <source>↻ 刷新</source>
-        <translation type="unfinished"></translation>
+        <translation>↻ 刷新</translation>
     </message>
     <message>
         <source>名称</source>
-        <translation type="unfinished"></translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>发行者</source>
-        <translation type="unfinished"></translation>
+        <translation>发行者</translation>
     </message>
     <message>
         <source>版本</source>
-        <translation type="unfinished"></translation>
+        <translation>版本</translation>
     </message>
     <message>
         <source>安装日期</source>
-        <translation type="unfinished"></translation>
+        <translation>安装日期</translation>
     </message>
     <message>
         <source>大小</source>
-        <translation type="unfinished"></translation>
+        <translation>大小</translation>
     </message>
     <message>
         <source>正在移除应用...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在移除应用...</translation>
     </message>
     <message>
         <source>请稍候...</source>
-        <translation type="unfinished"></translation>
+        <translation>请稍候...</translation>
     </message>
     <message>
         <source>正在扫描...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在扫描...</translation>
     </message>
     <message>
         <source>正在扫描 Windows 应用...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在扫描 Windows 应用...</translation>
     </message>
     <message>
         <source>正在扫描 Windows 应用... 已找到 %1 个</source>
-        <translation type="unfinished"></translation>
+        <translation>正在扫描 Windows 应用... 已找到 %1 个</translation>
     </message>
     <message>
         <source>显示 %1 / %2 个应用</source>
-        <translation type="unfinished"></translation>
+        <translation>显示 %1 / %2 个应用</translation>
     </message>
     <message>
         <source>共 %1 个应用</source>
-        <translation type="unfinished"></translation>
+        <translation>共 %1 个应用</translation>
     </message>
     <message>
         <source>🗑  移除所选</source>
-        <translation type="unfinished"></translation>
+        <translation>🗑  移除所选</translation>
     </message>
     <message>
         <source>🗑  移除所选 (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>🗑  移除所选 (%1)</translation>
     </message>
     <message>
         <source>已选择 %1 个应用</source>
-        <translation type="unfinished"></translation>
+        <translation>已选择 %1 个应用</translation>
     </message>
     <message>
         <source>无法卸载 Microsoft Edge</source>
-        <translation type="unfinished"></translation>
+        <translation>无法卸载 Microsoft Edge</translation>
     </message>
     <message>
         <source>Microsoft Edge 是 Windows 系统组件，无法通过此方式卸载。
 
 如需更换默认浏览器，请前往
 「设置 → 应用 → 默认应用」进行设置。</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsoft Edge 是 Windows 系统组件，无法通过此方式卸载。
+
+如需更换默认浏览器，请前往
+「设置 → 应用 → 默认应用」进行设置。</translation>
     </message>
     <message>
         <source>移除应用</source>
-        <translation type="unfinished"></translation>
+        <translation>移除应用</translation>
     </message>
     <message>
         <source>确定要移除 &quot;%1&quot;？</source>
-        <translation type="unfinished"></translation>
+        <translation>确定要移除 &quot;%1&quot;？</translation>
     </message>
     <message>
         <source>批量移除</source>
-        <translation type="unfinished"></translation>
+        <translation>批量移除</translation>
     </message>
     <message>
         <source>确定移除选中的 %1 个应用？
 此操作不可撤销。</source>
-        <translation type="unfinished"></translation>
+        <translation>确定移除选中的 %1 个应用？
+此操作不可撤销。</translation>
     </message>
     <message>
         <source>正在移除 %1 个应用...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在移除 %1 个应用...</translation>
     </message>
     <message>
         <source>%1 / %2 个应用</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2 个应用</translation>
     </message>
     <message>
         <source>正在移除「%1」...（%2/%3）</source>
-        <translation type="unfinished"></translation>
+        <translation>正在移除「%1」...（%2/%3）</translation>
     </message>
     <message>
         <source>• %1：%2</source>
-        <translation type="unfinished"></translation>
+        <translation>• %1：%2</translation>
     </message>
     <message>
         <source>✓ 已移除 %1 个应用，正在刷新...</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ 已移除 %1 个应用，正在刷新...</translation>
     </message>
     <message>
         <source>移除失败</source>
-        <translation type="unfinished"></translation>
+        <translation>移除失败</translation>
     </message>
     <message>
         <source>所有应用移除失败。</source>
-        <translation type="unfinished"></translation>
+        <translation>所有应用移除失败。</translation>
     </message>
     <message>
         <source>部分移除失败</source>
-        <translation type="unfinished"></translation>
+        <translation>部分移除失败</translation>
     </message>
     <message>
         <source>成功 &lt;b&gt;%1&lt;/b&gt; 个，失败 &lt;b&gt;%2&lt;/b&gt; 个。</source>
-        <translation type="unfinished"></translation>
+        <translation>成功 &lt;b&gt;%1&lt;/b&gt; 个，失败 &lt;b&gt;%2&lt;/b&gt; 个。</translation>
     </message>
     <message>
         <source>失败详情：&lt;br&gt;%1&lt;br&gt;&lt;br&gt;系统预装应用（如 Edge、Photos）可能受保护，无法通过此方式移除。</source>
-        <translation type="unfinished"></translation>
+        <translation>失败详情：&lt;br&gt;%1&lt;br&gt;&lt;br&gt;系统预装应用（如 Edge、Photos）可能受保护，无法通过此方式移除。</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <translation>LTR</translation>
     </message>
 </context>
 </TS>

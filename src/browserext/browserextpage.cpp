@@ -164,7 +164,10 @@ QWidget* BrowserExtPage::createHeader()
     m_searchBox->setObjectName(QStringLiteral("SearchBox"));
     m_searchBox->setPlaceholderText(tr("搜索扩展..."));
     m_searchBox->setClearButtonEnabled(true);
-    m_searchBox->setFixedWidth(220);
+    // Gives way before the title and the count do, when a language needs the room.
+    m_searchBox->setMinimumWidth(140);
+    m_searchBox->setMaximumWidth(220);
+    m_searchBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(m_searchBox, &QLineEdit::textChanged, this, &BrowserExtPage::onSearch);
     layout->addWidget(m_searchBox);
 

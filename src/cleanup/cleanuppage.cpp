@@ -158,9 +158,12 @@ QWidget* CleanupPage::createHeaderCard()
     m_summaryLine->setFixedHeight(12);
     m_summaryLine->setStyleSheet(
         QStringLiteral("font-size:11px; color:rgba(255,255,255,0.7); background:transparent;"));
-    texts->addWidget(m_statusTitle);
-    texts->addWidget(m_statusDetail);
-    texts->addWidget(m_summaryLine);
+    // A long status in some language must not widen the page past the window: the card keeps
+    // its width and the rows below stay in view.
+    for (QLabel* label : { m_statusTitle, m_statusDetail, m_summaryLine }) {
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        texts->addWidget(label);
+    }
     texts->addStretch();
     layout->addLayout(texts, 1);
 
@@ -204,6 +207,12 @@ QWidget* CleanupPage::createBottomBar()
     m_bottomSummary->setObjectName(QStringLiteral("CleanupBottomSummary"));
     m_bottomSummary->setStyleSheet(
         QStringLiteral("font-size:12px; color:#475569; background:transparent; border:none;"));
+    // Between two buttons whose texts vary by language: the summary wraps onto a second line
+    // rather than pushing the clean button out of the page.
+    m_bottomSummary->setWordWrap(true);
+    QSizePolicy summaryPolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    summaryPolicy.setHeightForWidth(true);
+    m_bottomSummary->setSizePolicy(summaryPolicy);
 
     m_cleanButton = new QPushButton(tr("🗑 清理选中项"), bar);
     m_cleanButton->setObjectName(QStringLiteral("CleanupCleanButton"));

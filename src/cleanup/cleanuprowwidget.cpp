@@ -1,6 +1,7 @@
 #include "cleanuprowwidget.h"
 
-#include <widgets/paintedcheckbox.h>
+#include "widgets/mirror.h"
+#include "widgets/paintedcheckbox.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -53,7 +54,7 @@ CleanupRowWidget::CleanupRowWidget(const JunkCategory& category, QWidget* parent
 
     auto* layout = new QHBoxLayout(this);
     // The right margin leaves room for the painted check box.
-    layout->setContentsMargins(16, 14, 44, 14);
+    Mirror::keepMarginsMirrored(this, layout, QMargins(16, 14, 44, 14));
     layout->setSpacing(12);
 
     auto* icon = new QLabel(category.icon, this);
@@ -142,7 +143,8 @@ void CleanupRowWidget::paintEvent(QPaintEvent*)
     painter.setBrush(m_selected ? QColor(0xef, 0xf6, 0xff) : QColor(Qt::white));
     painter.drawRoundedRect(frame, CornerRadius, CornerRadius);
 
-    const QRectF box(width() - CheckBoxFromRight, height() / 2 - CheckBoxSide / 2, CheckBoxSide, CheckBoxSide);
+    const QRectF box = Mirror::place(
+        this, QRectF(width() - CheckBoxFromRight, height() / 2 - CheckBoxSide / 2, CheckBoxSide, CheckBoxSide));
     paintCheckBox(painter, box, m_selected);
 }
 

@@ -58,6 +58,12 @@ NavButton::NavButton(const QString& icon, const QString& text, const QString& ba
     auto* textLabel = new QLabel(text, this);
     textLabel->setObjectName(QStringLiteral("NavLabel"));
     textLabel->setStyleSheet(QStringLiteral("background: transparent; color: rgba(255,255,255,0.70); font-size:13px;"));
+    // The sidebar has a fixed width: an entry too long for it in some language takes a second
+    // line instead of being cut at the edge.
+    textLabel->setWordWrap(true);
+    QSizePolicy textPolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    textPolicy.setHeightForWidth(true);
+    textLabel->setSizePolicy(textPolicy);
     layout->addWidget(textLabel, 1);
 
     if (!badge.isEmpty()) {

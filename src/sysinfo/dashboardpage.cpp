@@ -238,10 +238,12 @@ QWidget* DashboardPage::createQuickActionsCard()
         button->setStyleSheet(QStringLiteral("QPushButton {  background:%1; border:none; border-radius:10px;}"
                                              "QPushButton:hover { filter:brightness(0.95); }")
                                   .arg(QLatin1String(action.background)));
+        // Centred by stretches rather than by the layout's alignment, so the labels get the tile's
+        // whole width and a long title (German, say) wraps inside the tile instead of being cut.
         auto* inner = new QVBoxLayout(button);
-        inner->setAlignment(Qt::AlignCenter);
         inner->setContentsMargins(8, 0, 8, 0);
         inner->setSpacing(3);
+        inner->addStretch(1);
 
         auto* title
             = new QLabel(QStringLiteral("%1  %2").arg(QString::fromUtf8(action.icon), tr(action.title)), button);
@@ -253,12 +255,15 @@ QWidget* DashboardPage::createQuickActionsCard()
         // The whole tile is the button; the labels only show text.
         for (QLabel* label : { title, description }) {
             label->setAttribute(Qt::WA_TransparentForMouseEvents);
+            label->setWordWrap(true);
+            label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
             inner->addWidget(label);
         }
+        inner->addStretch(1);
 
         const int index = action.pageIndex;
         connect(button, &QPushButton::clicked, this, [this, index] { emit navigateTo(index); });
-        row->addWidget(button);
+        row->addWidget(button, 1);
     }
     layout->addLayout(row);
     return card;

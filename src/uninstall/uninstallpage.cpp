@@ -5,6 +5,7 @@
 
 #include <forceremove/forceremovedialog.h>
 #include <residue/residuedialog.h>
+#include <widgets/mirror.h>
 
 #include <QComboBox>
 #include <QDialog>
@@ -222,7 +223,8 @@ QWidget* UninstallPage::createColumnHeads()
     // Same geometry as the rows, whose list sits 24 pixels in from the page's edges.
     using Row = UninstallRowWidget;
     auto* layout = new QHBoxLayout(heads);
-    layout->setContentsMargins(24 + Row::NameX, 0, 24 + Row::SidePadding + Row::ButtonWidth + Row::ColumnGap, 0);
+    Mirror::keepMarginsMirrored(
+        heads, layout, QMargins(24 + Row::NameX, 0, 24 + Row::SidePadding + Row::ButtonWidth + Row::ColumnGap, 0));
     layout->setSpacing(Row::ColumnGap);
     const auto head = [heads](const QString& text, int width) {
         auto* l = new QLabel(text, heads);

@@ -2,11 +2,13 @@
 
 #include "programicon.h"
 #include "uninstallmanager.h"
+#include "widgets/mirror.h"
 
 #include <QFutureWatcher>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 
 namespace {
 
@@ -56,7 +58,8 @@ QString UninstallRowWidget::removeKind(const QString& status)
 
 QRect UninstallRowWidget::removeButtonRect() const
 {
-    return QRect(width() - SidePadding - ButtonWidth, (height() - ButtonHeight) / 2, ButtonWidth, ButtonHeight);
+    return Mirror::place(
+        this, QRect(width() - SidePadding - ButtonWidth, (height() - ButtonHeight) / 2, ButtonWidth, ButtonHeight));
 }
 
 QString UninstallRowWidget::sizeColor(qint64 bytes)
@@ -175,7 +178,8 @@ void UninstallRowWidget::paintEvent(QPaintEvent*)
     p.fillRect(QRect(0, height() - 1, width(), 1), QColor(0xf1, 0xf5, 0xf9));
 
     // The tick.
-    const QRectF tick(SidePadding + 0.5, (height() - TickSide) / 2 + 0.5, TickSide - 1, TickSide - 1);
+    const QRectF tick
+        = Mirror::place(this, QRectF(SidePadding + 0.5, (height() - TickSide) / 2 + 0.5, TickSide - 1, TickSide - 1));
     if (m_selected) {
         p.setPen(QPen(QColor(0x25, 0x63, 0xeb), 1));
         p.setBrush(QColor(0x25, 0x63, 0xeb));
@@ -194,7 +198,7 @@ void UninstallRowWidget::paintEvent(QPaintEvent*)
     }
 
     // The icon, or a lettered tile until (or unless) one is found.
-    const QRect iconRect(IconX, (height() - IconShown) / 2, IconShown, IconShown);
+    const QRect iconRect = Mirror::place(this, QRect(IconX, (height() - IconShown) / 2, IconShown, IconShown));
     if (!m_icon.isNull()) {
         p.drawPixmap(iconRect, m_icon);
     } else {
@@ -212,6 +216,10 @@ void UninstallRowWidget::paintEvent(QPaintEvent*)
     const int publisherX = sizeX - ColumnGap - PublisherWidth;
     const int nameWidth = publisherX - ColumnGap - NameX;
 
+    // Names, publishers and sizes keep their own reading direction whatever the interface's, so
+    // "1.2 GB" never turns into "GB 1.2"; the columns themselves follow the interface.
+    const Qt::LayoutDirection interfaceDirection = layoutDirection();
+    p.setLayoutDirection(Qt::LayoutDirectionAuto);
     const auto text = [&](int x, int w, const QFont& f, const QColor& color, const QString& s,
                           Qt::Alignment align = Qt::AlignLeft) {
         if (w <= 0)
@@ -219,12 +227,14 @@ void UninstallRowWidget::paintEvent(QPaintEvent*)
         p.setFont(f);
         p.setPen(color);
         const QString shown = QFontMetrics(f).elidedText(s, Qt::ElideRight, w);
-        p.drawText(QRect(x, 0, w, height()), int(align | Qt::AlignVCenter), shown);
+        p.drawText(Mirror::place(this, QRect(x, 0, w, height())),
+            int(QStyle::visualAlignment(interfaceDirection, align) | Qt::AlignVCenter), shown);
     };
     text(NameX, nameWidth, pixelFont(font(), 13, QFont::Medium), QColor(0x0f, 0x17, 0x2a), m_app.name);
     text(publisherX, PublisherWidth, pixelFont(font(), 12), QColor(0x64, 0x74, 0x8b), m_app.publisher);
     text(sizeX, SizeWidth, pixelFont(font(), 12, QFont::Medium), QColor(sizeColor(m_app.estimatedSize)),
         UninstallManager::formatSize(m_app.estimatedSize));
     text(dateX, DateWidth, pixelFont(font(), 12), QColor(0x94, 0xa3, 0xb8), m_app.installDate);
+    p.setLayoutDirection(interfaceDirection);
     paintRemoveButton(p);
 }

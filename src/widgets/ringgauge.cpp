@@ -61,6 +61,9 @@ void RingGauge::paintEvent(QPaintEvent* /*event*/)
     }
 
     const int half = h / 2;
+    // Centred texts read in their own direction: "192/251 GB" stays as written in a right-to-left
+    // interface, and a translated label still reads right to left.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
 
     QFont percentFont;
     percentFont.setPixelSize(24);

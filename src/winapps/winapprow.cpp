@@ -1,6 +1,7 @@
 #include "winapprow.h"
 
-#include <widgets/paintedcheckbox.h>
+#include "widgets/mirror.h"
+#include "widgets/paintedcheckbox.h"
 
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -44,7 +45,7 @@ WinAppRow::WinAppRow(const WinApp& app, QWidget* parent)
 
     auto* layout = new QHBoxLayout(this);
     // The left margin leaves room for the painted check box.
-    layout->setContentsMargins(CheckColumn, 0, 12, 0);
+    Mirror::keepMarginsMirrored(this, layout, QMargins(CheckColumn, 0, 12, 0));
     layout->setSpacing(ColumnSpacing);
 
     layout->addWidget(makeAvatar());
@@ -68,7 +69,7 @@ WinAppRow::WinAppRow(const WinApp& app, QWidget* parent)
     auto* remove = new QPushButton(tr("移除"), this);
     remove->setObjectName(QStringLiteral("WinAppRowRemove"));
     remove->setCursor(Qt::PointingHandCursor);
-    remove->setFixedSize(ActionColumn - 8, 26);
+    remove->setFixedSize(actionColumnWidth() - 8, 26);
     remove->setStyleSheet(
         QStringLiteral("QPushButton { background:#fee2e2; color:#dc2626; border:none; border-radius:5px;"
                        " font-size:12px; font-weight:600; }"
@@ -76,6 +77,15 @@ WinAppRow::WinAppRow(const WinApp& app, QWidget* parent)
     connect(remove, &QPushButton::clicked, this, [this] { emit removeRequested(m_app); });
     layout->addWidget(remove);
     layout->addSpacing(8);
+}
+
+int WinAppRow::actionColumnWidth()
+{
+    QFont font;
+    font.setPixelSize(12);
+    font.setWeight(QFont::DemiBold);
+    const int textWidth = QFontMetrics(font).horizontalAdvance(tr("移除"));
+    return qMax(ActionColumn, textWidth + 2 * 8 + 8);
 }
 
 QColor WinAppRow::avatarColor(const QString& displayName)
@@ -131,7 +141,8 @@ void WinAppRow::paintEvent(QPaintEvent*)
     painter.setBrush(m_selected ? QColor(0xef, 0xf6, 0xff) : QColor(Qt::white));
     painter.drawRoundedRect(frame, CornerRadius, CornerRadius);
 
-    const QRectF box(CheckBoxLeft, height() / 2 - CheckBoxSide / 2, CheckBoxSide, CheckBoxSide);
+    const QRectF box
+        = Mirror::place(this, QRectF(CheckBoxLeft, height() / 2 - CheckBoxSide / 2, CheckBoxSide, CheckBoxSide));
     paintCheckBox(painter, box, m_selected);
 }
 

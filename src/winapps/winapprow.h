@@ -26,10 +26,13 @@ public:
     static constexpr int CheckColumn = 40;
     static constexpr int PublisherColumn = 132;
     static constexpr int VersionColumn = 116;
-    static constexpr int DateColumn = 78;
+    static constexpr int DateColumn = 96;
     static constexpr int SizeColumn = 62;
     static constexpr int ActionColumn = 60;
     static constexpr int ColumnSpacing = 8;
+    // The action column is at least ActionColumn wide and grows to fit the remove button's text
+    // in the current language, the same for every row and the header.
+    static int actionColumnWidth();
 
 signals:
     void selectionChanged(bool selected);

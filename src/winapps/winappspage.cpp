@@ -1,6 +1,7 @@
 #include "winappspage.h"
 
 #include "processrunner.h"
+#include "widgets/mirror.h"
 #include "winappremover.h"
 #include "winapprow.h"
 #include "winappscanner.h"
@@ -49,6 +50,9 @@ QLabel* columnLabel(const QString& text, int width, QWidget* parent)
 {
     auto* label = new QLabel(text, parent);
     label->setStyleSheet(QStringLiteral("font-size:12px; font-weight:600; color:#64748b; background:transparent;"));
+    // The columns are as wide as their data; a heading longer than that in some language takes a
+    // second line rather than being cut off.
+    label->setWordWrap(true);
     if (width > 0)
         label->setFixedWidth(width);
     return label;
@@ -127,7 +131,10 @@ QWidget* WinAppsPage::createHeader()
     m_searchEdit->setObjectName(QStringLiteral("WinAppsSearch"));
     m_searchEdit->setPlaceholderText(tr("搜索应用..."));
     m_searchEdit->setClearButtonEnabled(true);
-    m_searchEdit->setFixedWidth(240);
+    // Gives way before the title and the count do, when a language needs the room.
+    m_searchEdit->setMinimumWidth(140);
+    m_searchEdit->setMaximumWidth(240);
+    m_searchEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_searchEdit->setStyleSheet(QStringLiteral("QLineEdit { background:#f1f5f9; border:1px solid #e2e8f0;"
                                                " border-radius:8px; padding:0 10px; min-height:32px; font-size:13px; }"
                                                "QLineEdit:focus { background:#ffffff; border:1px solid #93c5fd; }"));
@@ -200,14 +207,14 @@ QWidget* WinAppsPage::createColumnHeader()
     columns->setFixedHeight(34);
     auto* layout = new QHBoxLayout(columns);
     // Lines up with the rows: the rows' own margin inside the scroll area plus their check column.
-    layout->setContentsMargins(16 + WinAppRow::CheckColumn, 0, 16 + 12 + 10, 0);
+    Mirror::keepMarginsMirrored(columns, layout, QMargins(16 + WinAppRow::CheckColumn, 0, 16 + 12 + 10, 0));
     layout->setSpacing(WinAppRow::ColumnSpacing);
     layout->addWidget(columnLabel(tr("名称"), 0, columns), 1);
     layout->addWidget(columnLabel(tr("发行者"), WinAppRow::PublisherColumn, columns));
     layout->addWidget(columnLabel(tr("版本"), WinAppRow::VersionColumn, columns));
     layout->addWidget(columnLabel(tr("安装日期"), WinAppRow::DateColumn, columns));
     layout->addWidget(columnLabel(tr("大小"), WinAppRow::SizeColumn, columns));
-    layout->addSpacing(WinAppRow::ActionColumn + 8);
+    layout->addSpacing(WinAppRow::actionColumnWidth() + 8);
     return columns;
 }
 

@@ -124,10 +124,15 @@ int main(int argc, char* argv[])
     window.navigateTo(MainWindow::Dashboard);
     QTimer::singleShot(600, &app, [&] {
         if (QMenu* menu = window.titleBar()->menu()) {
-            QPixmap shot = window.grab();
-            QPainter painter(&shot);
+            // The menu may hang past the window's edge, as it does on screen: the picture takes in
+            // both, so a long entry is seen whole.
             const QPoint at = window.mapFromGlobal(menu->pos());
-            painter.drawPixmap(at, menu->grab());
+            const QRect canvas = window.rect().united(QRect(at, menu->size()));
+            QPixmap shot(canvas.size());
+            shot.fill(QColor(0x33, 0x41, 0x55));
+            QPainter painter(&shot);
+            painter.drawPixmap(-canvas.topLeft(), window.grab());
+            painter.drawPixmap(at - canvas.topLeft(), menu->grab());
             painter.end();
             shot.save(QStringLiteral("%1/5-menu.png").arg(outDir));
             menu->close();
