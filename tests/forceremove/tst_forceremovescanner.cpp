@@ -9,8 +9,6 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
-#include <QMutex>
-#include <QSignalSpy>
 #include <QTest>
 
 using platform::Hive;
@@ -68,6 +66,14 @@ void installFooApp(SandboxMachine& m, RecordedTools& tools)
         QStringLiteral("Foo Service"));
     m.addService(QStringLiteral("OtherSvc"), QStringLiteral("C:\\Other\\svc.exe"), QStringLiteral("Other"));
 }
+
+// A machine, recorded tools and a scanner that uses them.
+struct Rig {
+    SandboxMachine m;
+    std::shared_ptr<RecordedTools> tools = std::make_shared<RecordedTools>();
+    ForceRemoveScanner scanner;
+    Rig() { scanner.setToolRunner(tools); }
+};
 
 struct ScanRun {
     QList<ForceRemoveItem> items;
@@ -227,13 +233,10 @@ class tst_ForceRemoveScanner : public QObject {
 private slots:
     void findsEveryTraceInDiscoveryOrderAndEndsTheProgram()
     {
-        SandboxMachine m;
-        auto tools = std::make_shared<RecordedTools>();
-        installFooApp(m, *tools);
-        ForceRemoveScanner scanner;
-        scanner.setToolRunner(tools);
-        const ScanRun run = scan(scanner, fooApp());
-        QVERIFY(run.total >= 0);
+        Rig r;
+        auto& m = r.m;
+        installFooApp(m, *r.tools);
+        const ScanRun run = scan(r.scanner, fooApp());
 
         const QString roamingLocal = m.local(Roaming);
         const QString localLocal = m.local(Local);
@@ -279,43 +282,37 @@ private slots:
         QCOMPARE(m.processes(),
             QStringList({ QStringLiteral("11\tC:\\Windows\\explorer.exe"), QStringLiteral("12\tC:\\Other\\foo.exe") }));
         QStringList killed;
-        for (const QStringList& call : tools->calls()) {
-            if (call.first() == QLatin1String("taskkill"))
-                killed.append(call.mid(1).join(QLatin1Char(' ')));
-        }
+        for (const QStringList& call : r.tools->calls())
+            killed.append(call.join(QLatin1Char(' ')));
         killed.sort();
-        QCOMPARE(killed, QStringList({ QStringLiteral("/F /IM foo.exe"), QStringLiteral("/F /IM helper.exe") }));
-        QVERIFY(tools->calls().contains(QStringList({ QStringLiteral("schtasks"), QStringLiteral("/query"),
+        QCOMPARE(killed.filter(QStringLiteral("taskkill")),
+            QStringList({ QStringLiteral("taskkill /F /IM foo.exe"), QStringLiteral("taskkill /F /IM helper.exe") }));
+        QVERIFY(r.tools->calls().contains(QStringList({ QStringLiteral("schtasks"), QStringLiteral("/query"),
             QStringLiteral("/fo"), QStringLiteral("CSV"), QStringLiteral("/nh") })));
     }
 
     void removesWhatIsChosenAndCountsWhatIsFreed()
     {
-        SandboxMachine m;
-        auto tools = std::make_shared<RecordedTools>();
-        installFooApp(m, *tools);
+        Rig r;
+        auto& m = r.m;
+        auto& scanner = r.scanner;
+        installFooApp(m, *r.tools);
         // A link inside the install folder goes as a link; what it points to stays.
         QTemporaryDir outside;
-        QFile keep(outside.path() + QStringLiteral("/keep.doc"));
-        QVERIFY(keep.open(QIODevice::WriteOnly) && keep.write("precious") == 8);
-        keep.close();
-        QFile otherProgram(outside.path() + QStringLiteral("/other.exe"));
-        QVERIFY(otherProgram.open(QIODevice::WriteOnly));
-        otherProgram.close();
+        for (const char* name : { "/keep.doc", "/other.exe" }) {
+            QFile file(outside.path() + QLatin1String(name));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("precious") == 8);
+        }
         QVERIFY(QFile::link(outside.path(), m.local(Install + QStringLiteral("\\bin\\outside"))));
         m.setProcesses({});
 
-        ForceRemoveScanner scanner;
-        scanner.setToolRunner(tools);
-        const ScanRun run = scan(scanner, fooApp());
-        QCOMPARE(run.items.size(), 12);
-        for (const QStringList& call : tools->calls())
+        QCOMPARE(scan(scanner, fooApp()).items.size(), 12);
+        for (const QStringList& call : r.tools->calls())
             QVERIFY2(!call.contains(QStringLiteral("other.exe")), "taskkill followed the link");
 
         QSignalSpy progress(&scanner, &ForceRemoveScanner::executeProgress);
         QSignalSpy finished(&scanner, &ForceRemoveScanner::executeFinished);
-        const QList<int> chosen = { 0, 99, 1, -1, 4, 6, 7, 8, 10, 11 };
-        scanner.execute(chosen);
+        scanner.execute({ 0, 99, 1, -1, 4, 6, 7, 8, 10, 11 });
         QVERIFY(arrived(finished));
         QCOMPARE(finished.at(0).at(0).toLongLong(), 4500 + 200 + 40);
 
@@ -342,7 +339,7 @@ private slots:
         QVERIFY(!QFileInfo::exists(m.local(Roaming + StartupFolder + QStringLiteral("Foo App.lnk"))));
         QVERIFY(QFileInfo::exists(m.local(Roaming + StartupFolder + QStringLiteral("Other.lnk"))));
 
-        const QList<QStringList> calls = tools->calls();
+        const QList<QStringList> calls = r.tools->calls();
         const QList<QStringList> removals(calls.end() - 3, calls.end());
         QCOMPARE(removals,
             QList<QStringList>({ { QStringLiteral("schtasks"), QStringLiteral("/delete"), QStringLiteral("/tn"),
@@ -356,7 +353,9 @@ private slots:
     // writing is not reported as deleted.
     void removalOutcomesAreLoggedAsTheyCameOut()
     {
-        SandboxMachine m;
+        Rig r;
+        auto& m = r.m;
+        auto& scanner = r.scanner;
         m.writeFile(Install + QStringLiteral("\\foo.dll"), 700);
         m.writeFile(Roaming + QStringLiteral("\\Foo App\\s.ini"), 200);
         m.writeFile(Local + QStringLiteral("\\Foo App\\c.bin"), 300);
@@ -364,9 +363,6 @@ private slots:
         m.registry().setString(Hive::CurrentUser, Uninstall + L"\\FooUser", L"DisplayName", L"Foo App");
         m.registry().setString(Hive::LocalMachine, Run, L"FooTray", TrayCommand.toStdWString());
         StubbornMachine stubborn(m, m.local(Install));
-        auto tools = std::make_shared<RecordedTools>();
-        ForceRemoveScanner scanner;
-        scanner.setToolRunner(tools);
         const ScanRun run = scan(scanner, fooApp());
         QCOMPARE(run.items.size(), 6);
         const QString localFolder = m.local(Local) + QStringLiteral("/Foo App");
@@ -421,14 +417,10 @@ private slots:
         QFETCH(QByteArray, listing);
         QFETCH(bool, finished);
         QFETCH(QStringList, tasks);
-        SandboxMachine m;
-        auto tools = std::make_shared<RecordedTools>();
-        tools->answer(QStringLiteral("schtasks"), output(listing, finished));
-        ForceRemoveScanner scanner;
-        scanner.setToolRunner(tools);
-        const ScanRun run = scan(scanner, fooApp());
+        Rig r;
+        r.tools->answer(QStringLiteral("schtasks"), output(listing, finished));
         QStringList found;
-        for (const ForceRemoveItem& item : run.items) {
+        for (const ForceRemoveItem& item : scan(r.scanner, fooApp()).items) {
             QCOMPARE(item.kind, ForceRemoveKind::ScheduledTask);
             QVERIFY(item.highRisk && !item.checked);
             found.append(item.path);
@@ -458,7 +450,8 @@ private slots:
     {
         QFETCH(QString, location);
         QFETCH(bool, refused);
-        SandboxMachine m;
+        Rig r;
+        auto& m = r.m;
         const QStringList processes = { QStringLiteral("20\tC:\\Windows\\explorer.exe"),
             QStringLiteral("21\tC:\\Program Files\\Other\\o.exe"),
             QStringLiteral("22\tC:\\Users\\User\\AppData\\Roaming\\r.exe"),
@@ -472,17 +465,14 @@ private slots:
         m.registry().setString(Hive::CurrentUser, Run, L"Shell", L"C:\\Windows\\explorer.exe");
         m.registry().setString(Hive::CurrentUser, Uninstall + L"\\Zed", L"DisplayName", L"Zed Tool");
 
-        auto tools = std::make_shared<RecordedTools>();
-        ForceRemoveScanner scanner;
-        scanner.setToolRunner(tools);
         InstalledApp app;
         app.name = QStringLiteral("Zed Tool");
         app.installLocation = location;
-        const ScanRun run = scan(scanner, app);
+        const ScanRun run = scan(r.scanner, app);
 
-        QCOMPARE(scanner.installLocationRefused(), refused);
+        QCOMPARE(r.scanner.installLocationRefused(), refused);
         QCOMPARE(m.processes(), processes);
-        for (const QStringList& call : tools->calls())
+        for (const QStringList& call : r.tools->calls())
             QCOMPARE(call.first(), QStringLiteral("schtasks"));
         // Only the entry found by the program's name.
         QCOMPARE(describe(run.items),
@@ -491,21 +481,18 @@ private slots:
 
     void theSameFolderIsListedOnceHoweverItIsReached()
     {
-        SandboxMachine m;
+        Rig r;
+        auto& m = r.m;
         // Two candidates that differ only in case, and the install folder among the app data.
         m.writeFile(Roaming + QStringLiteral("\\acme\\a.bin"), 10);
         m.writeFile(Roaming + QStringLiteral("\\Acme\\b.bin"), 20);
         m.writeFile(Local + QStringLiteral("\\Acme\\c.bin"), 30);
-        auto tools = std::make_shared<RecordedTools>();
-        ForceRemoveScanner scanner;
-        scanner.setToolRunner(tools);
         InstalledApp app;
         app.name = QStringLiteral("acme");
         app.publisher = QStringLiteral("Acme Corp");
         app.installLocation = Roaming + QStringLiteral("\\acme\\");
-        const ScanRun run = scan(scanner, app);
         QStringList paths;
-        for (const ForceRemoveItem& item : run.items)
+        for (const ForceRemoveItem& item : scan(r.scanner, app).items)
             paths.append(item.path);
         QCOMPARE(paths, QStringList({ app.installLocation, m.local(Local) + QStringLiteral("/Acme") }));
     }
