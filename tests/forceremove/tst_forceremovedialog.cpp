@@ -56,41 +56,25 @@ private slots:
         QTest::addColumn<qint64>("size");
         QTest::addColumn<bool>("enabled");
         QTest::addColumn<QString>("badge");
-        QTest::addColumn<QString>("sizeText"); // empty: no size label
+        QTest::addColumn<QString>("sizeText");
         QTest::addColumn<QString>("sizeColor");
-        QTest::newRow("install folder, small") << 0 << false << true << 10 * MiB << true << "Install Dir"
-                                               << "10 MB"
-                                               << "#64748b";
-        QTest::newRow("app data just above 10 MiB") << 1 << false << true << 10 * MiB + 1 << true << "App Data"
-                                                    << "10 MB"
-                                                    << "#f59e0b";
-        QTest::newRow("registry, no size") << 2 << false << true << qint64(0) << true << "Registry"
-                                           << ""
-                                           << "";
-        QTest::newRow("HKLM start-up: high risk yet checked, so unlocked")
-            << 3 << true << true << qint64(0) << true << "Startup"
-            << ""
-            << "";
-        QTest::newRow("shortcut of one byte") << 4 << false << true << qint64(1) << true << "Startup Lnk"
-                                              << "0 KB"
-                                              << "#64748b";
-        QTest::newRow("task: high risk and unchecked, locked")
-            << 5 << true << false << qint64(0) << false << "Scheduled Task"
-            << ""
-            << "";
-        QTest::newRow("service: locked") << 6 << true << false << qint64(0) << false << "Service"
-                                         << ""
-                                         << "";
-        QTest::newRow("unchecked but not high risk stays free")
-            << 1 << false << false << 100 * MiB << true << "App Data"
-            << "100 MB"
-            << "#f59e0b";
-        QTest::newRow("above 100 MiB") << 0 << false << true << 100 * MiB + 1 << true << "Install Dir"
-                                       << "100 MB"
-                                       << "#ef4444";
-        QTest::newRow("unknown kind: no badge") << 42 << false << true << qint64(0) << true << ""
-                                                << ""
-                                                << "";
+        // kind, high risk, checked, size, enabled, badge, size text (empty: no size label), size colour
+        const auto row = [](const char* name, int kind, bool risk, bool checked, qint64 size, bool enabled,
+                             const char* badge, const char* sizeText, const char* color) {
+            QTest::newRow(name) << kind << risk << checked << size << enabled << QString(badge) << QString(sizeText)
+                                << QString(color);
+        };
+        row("install folder, small", 0, false, true, 10 * MiB, true, "Install Dir", "10 MB", "#64748b");
+        row("app data just above 10 MiB", 1, false, true, 10 * MiB + 1, true, "App Data", "10 MB", "#f59e0b");
+        row("registry, no size", 2, false, true, 0, true, "Registry", "", "");
+        row("HKLM start-up: high risk yet checked, so unlocked", 3, true, true, 0, true, "Startup", "", "");
+        row("shortcut of one byte", 4, false, true, 1, true, "Startup Lnk", "0 KB", "#64748b");
+        row("task: high risk and unchecked, locked", 5, true, false, 0, false, "Scheduled Task", "", "");
+        row("service: locked", 6, true, false, 0, false, "Service", "", "");
+        row("unchecked but not high risk stays free", 1, false, false, 100 * MiB, true, "App Data", "100 MB",
+            "#f59e0b");
+        row("above 100 MiB", 0, false, true, 100 * MiB + 1, true, "Install Dir", "100 MB", "#ef4444");
+        row("unknown kind: no badge", 42, false, true, 0, true, "", "", "");
     }
     void rowsShowKindRiskAndSize()
     {
