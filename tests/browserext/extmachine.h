@@ -28,11 +28,8 @@ public:
     }
     ~ExtMachine() override { platform::setCurrent(nullptr); }
 
-    QString local(const QString& relative = QString()) const
-    {
-        return env(L"LOCALAPPDATA") + QLatin1Char('/') + relative;
-    }
-    QString roaming(const QString& relative = QString()) const { return env(L"APPDATA") + QLatin1Char('/') + relative; }
+    QString local(const QString& relative = QString()) const { return env(L"LOCALAPPDATA") + '/' + relative; }
+    QString roaming(const QString& relative = QString()) const { return env(L"APPDATA") + '/' + relative; }
     QString drive(const QString& windowsPath) const
     {
         return QString::fromStdWString(m_sandbox.environment().mapPath(windowsPath.toStdWString()));
@@ -56,11 +53,6 @@ public:
         std::lock_guard lock(m_mutex);
         m_running = images;
         m_stubborn = stubborn;
-    }
-    QStringList running() const
-    {
-        std::lock_guard lock(m_mutex);
-        return m_running;
     }
     std::vector<platform::ProcessInfo> snapshot() override
     {

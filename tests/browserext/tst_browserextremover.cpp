@@ -29,12 +29,11 @@ QByteArray preferences(const QByteArray& entry, const QByteArray& pinned)
 
 BrowserExt chrome(const QString& id = Id)
 {
-    return { QStringLiteral("Google Chrome"), id, QStringLiteral("N"), {}, {}, {}, true };
+    return { "Google Chrome", id, "N", {}, {}, {}, true };
 }
-
 BrowserExt firefox(const QString& id)
 {
-    return { QStringLiteral("Mozilla Firefox"), id, QStringLiteral("N"), {}, {}, {}, true };
+    return { "Mozilla Firefox", id, "N", {}, {}, {}, true };
 }
 
 } // namespace
