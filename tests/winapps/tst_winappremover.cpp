@@ -118,9 +118,6 @@ void tst_WinAppRemover::outcomes_data()
     row("no winget identifier: no fallback, an empty all-users error keeps the first",
         { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1) }, { "verify", outcome(0, "X") } }, "", false, "E",
         "user allUsers provisioned verify");
-    row("gone for every user although the steps failed",
-        { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1, {}, "E") }, { "verify", outcome(0) } }, "", true,
-        "", "user allUsers provisioned verify");
     row("an empty answer is gone whatever the check's exit code",
         { { "user", outcome(-1) }, { "allUsers", outcome(-1) }, { "winget", outcome(-1) }, { "verify", outcome(-1) } },
         id, true, "", "user allUsers provisioned winget verify");
