@@ -91,50 +91,38 @@ void tst_WinAppRemover::outcomes_data()
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("steps");
 
-    QTest::newRow("removed for the user and gone")
-        << Outcomes { { "user", outcome(0, {}, "warning text") }, { "verify", outcome(0, "\r\n") } }
-        << "Contoso.Notes_abc" << true << ""
-        << "user verify";
-    QTest::newRow("failed with standard error: the all-users error replaces it")
-        << Outcomes { { "user", outcome(1, {}, "E_USER") }, { "allUsers", outcome(1, {}, "  E_ALL \n") },
-               { "winget", outcome(5) }, { "verify", outcome(0, "Contoso.Notes_1.0.0.0_x64__abc") } }
-        << "Contoso.Notes_abc" << false << "E_ALL"
-        << "user allUsers provisioned winget verify";
-    QTest::newRow("an empty all-users error keeps the first")
-        << Outcomes { { "user", outcome(1, {}, "E_USER") }, { "allUsers", outcome(1) }, { "verify", outcome(0, "X") } }
-        << "" << false << "E_USER"
-        << "user allUsers provisioned verify";
-    QTest::newRow("failed without standard error")
-        << Outcomes { { "user", outcome(1) }, { "allUsers", outcome(1) }, { "verify", outcome(0, "X") } } << "" << false
-        << NeedsAdmin << "user allUsers provisioned verify";
-    QTest::newRow("removed but still registered for another user")
-        << Outcomes { { "verify", outcome(0, "Contoso.Notes_1.0.0.0_x64__abc") } } << "Contoso.Notes_abc" << false
-        << Protected << "user verify";
-    QTest::newRow("all-users removal decides; the provisioned step still runs")
-        << Outcomes { { "user", outcome(1, {}, "E") }, { "provisioned", outcome(1, {}, "P") },
-               { "verify", outcome(0) } }
-        << "Contoso.Notes_abc" << true << ""
-        << "user allUsers provisioned verify";
-    QTest::newRow("winget fallback succeeds")
-        << Outcomes { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1, {}, "E") }, { "verify", outcome(0) } }
-        << "Contoso.Notes_abc" << true << ""
-        << "user allUsers provisioned winget verify";
-    QTest::newRow("no winget identifier, no fallback")
-        << Outcomes { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1) }, { "verify", outcome(0, "X") } } << ""
-        << false << "E"
-        << "user allUsers provisioned verify";
-    QTest::newRow("gone for every user although the steps failed")
-        << Outcomes { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1, {}, "E") }, { "verify", outcome(0) } }
-        << "" << true << ""
-        << "user allUsers provisioned verify";
-    QTest::newRow("an empty answer is gone whatever the check's exit code")
-        << Outcomes { { "user", outcome(-1) }, { "allUsers", outcome(-1) }, { "winget", outcome(-1) },
-               { "verify", outcome(-1) } }
-        << "Contoso.Notes_abc" << true << ""
-        << "user allUsers provisioned winget verify";
-    QTest::newRow("a listed package fails even when the check exits non-zero")
-        << Outcomes { { "verify", outcome(1, "Contoso.Notes_1.0.0.0_x64__abc", "partial") } } << "" << false
-        << Protected << "user verify";
+    const auto row = [](const char* tag, const Outcomes& recorded, const char* wingetId, bool success,
+                         const QString& message, const char* steps) {
+        QTest::newRow(tag) << recorded << QString::fromLatin1(wingetId) << success << message
+                           << QString::fromLatin1(steps);
+    };
+    const char* const id = "Contoso.Notes_abc";
+    const QByteArray listed = "Contoso.Notes_1.0.0.0_x64__abc";
+    row("removed for the user and gone",
+        { { "user", outcome(0, {}, "warning text") }, { "verify", outcome(0, "\r\n") } }, id, true, "", "user verify");
+    row("failed with standard error: the all-users error replaces it",
+        { { "user", outcome(1, {}, "E_USER") }, { "allUsers", outcome(1, {}, "  E_ALL \n") }, { "winget", outcome(5) },
+            { "verify", outcome(0, listed) } },
+        id, false, "E_ALL", "user allUsers provisioned winget verify");
+    row("failed without standard error",
+        { { "user", outcome(1) }, { "allUsers", outcome(1) }, { "verify", outcome(0, "X") } }, "", false, NeedsAdmin,
+        "user allUsers provisioned verify");
+    row("removed but still registered for another user", { { "verify", outcome(0, listed) } }, id, false, Protected,
+        "user verify");
+    row("all-users removal decides; the provisioned step still runs",
+        { { "user", outcome(1, {}, "E") }, { "provisioned", outcome(1, {}, "P") }, { "verify", outcome(0) } }, id, true,
+        "", "user allUsers provisioned verify");
+    row("winget fallback succeeds",
+        { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1, {}, "E") }, { "verify", outcome(0) } }, id, true,
+        "", "user allUsers provisioned winget verify");
+    row("no winget identifier: no fallback, an empty all-users error keeps the first",
+        { { "user", outcome(1, {}, "E") }, { "allUsers", outcome(1) }, { "verify", outcome(0, "X") } }, "", false, "E",
+        "user allUsers provisioned verify");
+    row("an empty answer is gone whatever the check's exit code",
+        { { "user", outcome(-1) }, { "allUsers", outcome(-1) }, { "winget", outcome(-1) }, { "verify", outcome(-1) } },
+        id, true, "", "user allUsers provisioned winget verify");
+    row("a listed package fails even when the check exits non-zero", { { "verify", outcome(1, listed, "partial") } },
+        "", false, Protected, "user verify");
 }
 
 void tst_WinAppRemover::outcomes()
@@ -166,46 +154,32 @@ void tst_WinAppRemover::commandTextsAndTimeouts()
     runner.outcomes = { { "user", outcome(1) }, { "allUsers", outcome(1) }, { "winget", outcome(1) } };
     QTest::ignoreMessage(QtDebugMsg, "[WinApps] winget fallback exit: 1 for Contoso.Notes_abc");
     WinAppRemover(runner).remove(notes());
-    QCOMPARE(runner.calls.size(), 5);
-
-    const QStringList shell { "-NoProfile", "-NonInteractive", "-Command" };
-    const QString commands[] = {
-        "Remove-AppxPackage -Package 'Contoso.Notes_1.0.0.0_x64__abc'",
-        "Remove-AppxPackage -AllUsers -Package 'Contoso.Notes_1.0.0.0_x64__abc'",
-        "Get-AppxProvisionedPackage -Online | Where-Object { $_.DisplayName -like '*Contoso.Notes*' } | ForEach-Object "
-        "{"
-        "     Remove-AppxProvisionedPackage -Online     -PackageName $_.PackageName -AllUsers   }",
-        QString(),
-        "(Get-AppxPackage -Name 'Contoso.Notes' -AllUsers).PackageFullName",
-    };
-    const int timeouts[] = { 60000, 60000, 90000, 120000, 20000 };
-    for (int i = 0; i < 5; ++i) {
-        const auto& call = runner.calls.at(i);
-        QCOMPARE(call.timeoutMs, timeouts[i]);
-        if (i == 3) {
-            QCOMPARE(call.program, QStringLiteral("winget"));
-            QCOMPARE(call.arguments,
-                (QStringList {
-                    "uninstall", "--id", "Contoso.Notes_abc", "--silent", "--accept-source-agreements", "--force" }));
-        } else {
-            QCOMPARE(call.program, QStringLiteral("powershell.exe"));
-            QCOMPARE(call.arguments, shell + QStringList { commands[i] });
-        }
-    }
+    QStringList seen; // arguments kept apart, so a command that splits into several cannot pass
+    for (const auto& call : runner.calls)
+        seen << QStringLiteral("%1 %2 %3").arg(call.timeoutMs).arg(call.program, call.arguments.join(" | "));
+    const QString ps = QStringLiteral("powershell.exe -NoProfile | -NonInteractive | -Command | ");
+    QCOMPARE(seen,
+        (QStringList { "60000 " + ps + "Remove-AppxPackage -Package 'Contoso.Notes_1.0.0.0_x64__abc'",
+            "60000 " + ps + "Remove-AppxPackage -AllUsers -Package 'Contoso.Notes_1.0.0.0_x64__abc'",
+            "90000 " + ps
+                + "Get-AppxProvisionedPackage -Online | Where-Object { $_.DisplayName -like '*Contoso.Notes*' } | "
+                  "ForEach-Object {     Remove-AppxProvisionedPackage -Online     -PackageName $_.PackageName "
+                  "-AllUsers   }",
+            "120000 winget uninstall | --id | Contoso.Notes_abc | --silent | --accept-source-agreements | --force",
+            "20000 " + ps + "(Get-AppxPackage -Name 'Contoso.Notes' -AllUsers).PackageFullName" }));
 }
 
 void tst_WinAppRemover::quoting_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("quoted");
-    QTest::newRow("plain") << "Contoso.Notes_1.0.0.0_x64__abc"
-                           << "Contoso.Notes_1.0.0.0_x64__abc";
-    QTest::newRow("a quote that would end the string") << "x'; Remove-Item C:\\ -Recurse; '"
-                                                       << "x''; Remove-Item C:\\ -Recurse; ''";
-    QTest::newRow("quotes in a row") << "''"
-                                     << "''''";
-    QTest::newRow("typographic quotes end PowerShell strings too") << QString::fromUtf8(
-        "a\u2018b\u2019c\u201Ad\u201Be") << QString::fromUtf8("a\u2018\u2018b\u2019\u2019c\u201A\u201Ad\u201B\u201Be");
+    const auto row
+        = [](const char* tag, const QString& text, const QString& quoted) { QTest::newRow(tag) << text << quoted; };
+    row("plain", "Contoso.Notes_1.0.0.0_x64__abc", "Contoso.Notes_1.0.0.0_x64__abc");
+    row("a quote that would end the string", "x'; Remove-Item C:\\ -Recurse; '", "x''; Remove-Item C:\\ -Recurse; ''");
+    row("quotes in a row", "''", "''''");
+    row("typographic quotes end PowerShell strings too", QStringLiteral("a\u2018b\u2019c\u201Ad\u201Be"),
+        QStringLiteral("a\u2018\u2018b\u2019\u2019c\u201A\u201Ad\u201B\u201Be"));
 }
 
 void tst_WinAppRemover::quoting()

@@ -86,35 +86,23 @@ void tst_WinAppScanner::filters_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("kind");
     QTest::addColumn<bool>("hidden");
-
-    QTest::newRow("an ordinary store app is listed") << "Contoso.Notes"
-                                                     << "" << false;
-    QTest::newRow("framework") << "Contoso.Runtime"
-                               << "framework" << true;
-    QTest::newRow("resource package") << "Contoso.Notes"
-                                      << "resource" << true;
-    QTest::newRow("framework Edge gets no exception") << "Microsoft.MicrosoftEdge.Stable"
-                                                      << "framework" << true;
-    QTest::newRow("system-signed") << "Microsoft.Windows.Photos"
-                                   << "system" << true;
-    QTest::newRow("system-signed Edge is listed") << "Microsoft.MicrosoftEdge.Stable"
-                                                  << "system" << false;
-    QTest::newRow("bundle") << "Contoso.Suite"
-                            << "bundle" << true;
-    QTest::newRow("bundled Edge is listed") << "Microsoft.MicrosoftEdgeDevToolsClient"
-                                            << "bundle" << false;
-    QTest::newRow("language pack by prefix") << "Microsoft.LanguageExperiencePackde-DE"
-                                             << "" << true;
-    QTest::newRow("prefix in another case") << "microsoft.vclibs.140.00"
-                                            << "" << true;
-    QTest::newRow("last prefix") << "Microsoft.Winget.Source"
-                                 << "" << true;
-    QTest::newRow("prefix text later in the name is no prefix") << "Contoso.Microsoft.VCLibs"
-                                                                << "" << false;
-    QTest::newRow("codec by substring") << "Contoso.MPEG-2Tools"
-                                        << "" << true;
-    QTest::newRow("substring in another case") << "Fabrikam.heifimageextension"
-                                               << "" << true;
+    const auto row = [](const char* tag, const char* name, const char* kind, bool hidden) {
+        QTest::newRow(tag) << QString::fromLatin1(name) << QString::fromLatin1(kind) << hidden;
+    };
+    row("an ordinary store app is listed", "Contoso.Notes", "", false);
+    row("framework", "Contoso.Runtime", "framework", true);
+    row("resource package", "Contoso.Notes", "resource", true);
+    row("framework Edge gets no exception", "Microsoft.MicrosoftEdge.Stable", "framework", true);
+    row("system-signed", "Microsoft.Windows.Photos", "system", true);
+    row("system-signed Edge is listed", "Microsoft.MicrosoftEdge.Stable", "system", false);
+    row("bundle", "Contoso.Suite", "bundle", true);
+    row("bundled Edge is listed", "Microsoft.MicrosoftEdgeDevToolsClient", "bundle", false);
+    row("language pack by prefix", "Microsoft.LanguageExperiencePackde-DE", "", true);
+    row("prefix in another case", "microsoft.vclibs.140.00", "", true);
+    row("last prefix", "Microsoft.Winget.Source", "", true);
+    row("prefix text later in the name is no prefix", "Contoso.Microsoft.VCLibs", "", false);
+    row("codec by substring", "Contoso.MPEG-2Tools", "", true);
+    row("substring in another case", "Fabrikam.heifimageextension", "", true);
 }
 
 void tst_WinAppScanner::filters()
@@ -135,14 +123,15 @@ void tst_WinAppScanner::referenceForms_data()
 {
     QTest::addColumn<QString>("reference");
     QTest::addColumn<QString>("expanded");
-    QTest::newRow("three slashes: the package is the authority") << "ms-resource:///Resources/AppName"
-                                                                 << "ms-resource://Contoso.Notes/Resources/AppName";
-    QTest::newRow("two slashes and a bare key: the Resources map") << "ms-resource://AppName"
-                                                                   << "ms-resource://Contoso.Notes/Resources/AppName";
-    QTest::newRow("two slashes with a path stays") << "ms-resource://Other.Package/Strings/AppName"
-                                                   << "ms-resource://Other.Package/Strings/AppName";
-    QTest::newRow("no slashes stays") << "ms-resource:AppName"
-                                      << "ms-resource:AppName";
+    const auto row = [](const char* tag, const char* reference, const char* expanded) {
+        QTest::newRow(tag) << QString::fromLatin1(reference) << QString::fromLatin1(expanded);
+    };
+    const char* const resolved = "ms-resource://Contoso.Notes/Resources/AppName";
+    row("three slashes: the package is the authority", "ms-resource:///Resources/AppName", resolved);
+    row("two slashes and a bare key: the Resources map", "ms-resource://AppName", resolved);
+    row("two slashes with a path stays", "ms-resource://Other.Package/Strings/AppName",
+        "ms-resource://Other.Package/Strings/AppName");
+    row("no slashes stays", "ms-resource:AppName", "ms-resource:AppName");
 }
 
 void tst_WinAppScanner::referenceForms()
@@ -183,51 +172,30 @@ void tst_WinAppScanner::names_data()
     QTest::addColumn<QString>("runtimePublisher");
     QTest::addColumn<QString>("displayName");
     QTest::addColumn<QString>("publisher");
-
-    QTest::newRow("plain manifest names win") << manifest("  Notes  ", "Contoso Ltd") << false << "Runtime Notes"
-                                              << "Runtime Co"
-                                              << "Notes"
-                                              << "Contoso Ltd";
-    QTest::newRow("resolvable reference") << manifest("ms-resource:AppName", "ms-resource://Publisher") << false << ""
-                                          << ""
-                                          << "Resolved Notes"
-                                          << "Resolved Contoso";
-    QTest::newRow("unresolvable reference falls to the runtime's name")
-        << manifest("ms-resource:Missing") << false << "Runtime Notes"
-        << ""
-        << "Runtime Notes"
-        << "Contoso";
-    QTest::newRow("unresolvable everywhere leaves the package name")
-        << manifest("ms-resource:Missing", "ms-resource:Missing") << false << "ms-resource:AlsoMissing"
-        << "ms-resource:Missing"
-        << "Contoso.Notes"
-        << "";
-    QTest::newRow("a resolved text that is itself a reference is not used")
-        << manifest("ms-resource:Loop") << false << ""
-        << ""
-        << "Contoso.Notes"
-        << "Contoso";
-    QTest::newRow("no manifest: the runtime's texts") << QByteArray() << false << "Runtime Notes"
-                                                      << "Runtime Co"
-                                                      << "Runtime Notes"
-                                                      << "Runtime Co";
-    QTest::newRow("bundle manifest when the package has none") << manifest("Bundle Notes") << true << "Runtime Notes"
-                                                               << ""
-                                                               << "Bundle Notes"
-                                                               << "Contoso";
-    QTest::newRow("unbalanced tags") << QByteArray("<DisplayName>Notes<PublisherDisplayName>Contoso</Package>") << false
-                                     << "Runtime Notes"
-                                     << ""
-                                     << "Runtime Notes"
-                                     << "";
-    QTest::newRow("not UTF-8 does not stop the scan")
-        << manifest("Caf\xe9 \xff\xfe") << false << ""
-        << "" << QString::fromUtf8("Caf\xef\xbf\xbd \xef\xbf\xbd\xef\xbf\xbd") << "Contoso";
-    QTest::newRow("huge manifest: the values near the top are still read")
-        << (manifest("Big Notes") + QByteArray(6 * 1024 * 1024, ' ')) << false << ""
-        << ""
-        << "Big Notes"
-        << "Contoso";
+    // runtime and expected hold "name|publisher"
+    const auto row = [](const char* tag, const QByteArray& text, bool bundle, const char* runtime, const char* shown) {
+        const QStringList r = QString::fromUtf8(runtime).split('|'), e = QString::fromUtf8(shown).split('|');
+        QTest::newRow(tag) << text << bundle << r[0] << r[1] << e[0] << e[1];
+    };
+    row("plain manifest names win", manifest("  Notes  ", "Contoso Ltd"), false, "Runtime Notes|Runtime Co",
+        "Notes|Contoso Ltd");
+    row("resolvable reference", manifest("ms-resource:AppName", "ms-resource://Publisher"), false, "|",
+        "Resolved Notes|Resolved Contoso");
+    row("unresolvable reference falls to the runtime's name", manifest("ms-resource:Missing"), false, "Runtime Notes|",
+        "Runtime Notes|Contoso");
+    row("unresolvable everywhere leaves the package name", manifest("ms-resource:Missing", "ms-resource:Missing"),
+        false, "ms-resource:AlsoMissing|ms-resource:Missing", "Contoso.Notes|");
+    row("a resolved text that is itself a reference is not used", manifest("ms-resource:Loop"), false, "|",
+        "Contoso.Notes|Contoso");
+    row("no manifest: the runtime's texts", {}, false, "Runtime Notes|Runtime Co", "Runtime Notes|Runtime Co");
+    row("bundle manifest when the package has none", manifest("Bundle Notes"), true, "Runtime Notes|",
+        "Bundle Notes|Contoso");
+    row("unbalanced tags", "<DisplayName>Notes<PublisherDisplayName>Contoso</Package>", false, "Runtime Notes|",
+        "Runtime Notes|");
+    row("not UTF-8 does not stop the scan", manifest("Caf\xe9 \xff\xfe"), false, "|",
+        "Caf\xef\xbf\xbd \xef\xbf\xbd\xef\xbf\xbd|Contoso");
+    row("huge manifest: the values near the top are still read",
+        manifest("Big Notes") + QByteArray(6 * 1024 * 1024, ' '), false, "|", "Big Notes|Contoso");
 }
 
 void tst_WinAppScanner::names()
@@ -267,29 +235,22 @@ void tst_WinAppScanner::logo_data()
     QTest::addColumn<QByteArray>("attributes");
     QTest::addColumn<QStringList>("files"); // relative to the install folder; "../" leaves it
     QTest::addColumn<QString>("expected"); // relative; empty: none
-
-    QTest::newRow("the plain file") << QByteArray(R"(Square44x44Logo="Assets\Logo.png")")
-                                    << QStringList { "Assets/Logo.png", "Assets/Logo.scale-100.png" }
-                                    << "Assets/Logo.png";
-    QTest::newRow("scale-200 when the plain file is missing")
-        << QByteArray(R"(Square44x44Logo="Assets\Logo.png")") << QStringList { "Assets/Logo.scale-200.png" }
-        << "Assets/Logo.scale-200.png";
-    QTest::newRow("scale-100 before scale-200")
-        << QByteArray(R"(Square44x44Logo="Assets\Logo.png")")
-        << QStringList { "Assets/Logo.scale-200.png", "Assets/Logo.scale-100.png" } << "Assets/Logo.scale-100.png";
-    QTest::newRow("scale-200 before scale-125")
-        << QByteArray(R"(Square44x44Logo="Assets\Logo.png")")
-        << QStringList { "Assets/Logo.scale-125.png", "Assets/Logo.scale-200.png" } << "Assets/Logo.scale-200.png";
-    QTest::newRow("scale-400 last") << QByteArray(R"(Square44x44Logo="Assets\Logo.png")")
-                                    << QStringList { "Assets/Logo.scale-400.png" } << "Assets/Logo.scale-400.png";
-    QTest::newRow("a missing 44 falls to 30 then 150")
-        << QByteArray(R"(Square150x150Logo="Big.png" Square44x44Logo="Gone.png" Square30x30Logo="Small.png")")
-        << QStringList { "Big.png", "Small.scale-150.png" } << "Small.scale-150.png";
-    QTest::newRow("climbing out of the install folder is refused")
-        << QByteArray(R"(Square44x44Logo="..\Outside.png" Square150x150Logo="Assets\..\..\Outside.png")")
-        << QStringList { "../Outside.png" } << "";
-    QTest::newRow("an absolute path is refused")
-        << QByteArray(R"(Square44x44Logo="C:\Windows\Logo.png")") << QStringList {} << "";
+    const auto row = [](const char* tag, const QStringList& files, const char* expected,
+                         const QByteArray& attributes = R"(Square44x44Logo="Assets\Logo.png")") {
+        QTest::newRow(tag) << attributes << files << QString::fromLatin1(expected);
+    };
+    row("the plain file", { "Assets/Logo.png", "Assets/Logo.scale-100.png" }, "Assets/Logo.png");
+    row("scale-200 when the plain file is missing", { "Assets/Logo.scale-200.png" }, "Assets/Logo.scale-200.png");
+    row("scale-100 before scale-200", { "Assets/Logo.scale-200.png", "Assets/Logo.scale-100.png" },
+        "Assets/Logo.scale-100.png");
+    row("scale-200 before scale-125", { "Assets/Logo.scale-125.png", "Assets/Logo.scale-200.png" },
+        "Assets/Logo.scale-200.png");
+    row("scale-400 last", { "Assets/Logo.scale-400.png" }, "Assets/Logo.scale-400.png");
+    row("a missing 44 falls to 30 then 150", { "Big.png", "Small.scale-150.png" }, "Small.scale-150.png",
+        R"(Square150x150Logo="Big.png" Square44x44Logo="Gone.png" Square30x30Logo="Small.png")");
+    row("climbing out of the install folder is refused", { "../Outside.png" }, "",
+        R"(Square44x44Logo="..\Outside.png" Square150x150Logo="Assets\..\..\Outside.png")");
+    row("an absolute path is refused", {}, "", R"(Square44x44Logo="C:\Windows\Logo.png")");
 }
 
 void tst_WinAppScanner::logo()
@@ -328,12 +289,10 @@ void tst_WinAppScanner::folderFacts()
     const QList<WinApp> apps = scan();
     QCOMPARE(apps.size(), 3);
     const QString today = QDate::currentDate().toString(QStringLiteral("yyyy/M/d"));
-    QCOMPARE(apps[0].installDate, today);
-    QCOMPARE(apps[0].sizeText, QString());
-    QCOMPARE(apps[1].installDate, today);
-    QCOMPARE(apps[1].sizeText, QStringLiteral("2 KB"));
-    QCOMPARE(apps[2].installDate, QString());
-    QCOMPARE(apps[2].sizeText, QString());
+    QStringList facts;
+    for (const WinApp& app : apps)
+        facts << app.installDate + '|' + app.sizeText;
+    QCOMPARE(facts, (QStringList { today + '|', today + QStringLiteral("|2 KB"), QStringLiteral("|") }));
 }
 
 void tst_WinAppScanner::progressSortAndFields()
@@ -358,11 +317,8 @@ void tst_WinAppScanner::progressSortAndFields()
         order.join(' '), QStringLiteral("a.App b.App C.App d.App e.App F.App g.App H.App i.App J.App k.App L.App"));
 
     const WinApp& a = apps.first();
-    QCOMPARE(a.name, QStringLiteral("a.App"));
-    QCOMPARE(a.fullName, QStringLiteral("a.App_1.0.0.0_x64__pid"));
-    QCOMPARE(a.version, QStringLiteral("1.20.300.4000"));
-    QCOMPARE(a.publisherId, QStringLiteral("pid"));
-    QCOMPARE(a.wingetId, QStringLiteral("a.App_pid"));
+    QCOMPARE(QStringList({ a.name, a.fullName, a.version, a.publisherId, a.wingetId }).join('|'),
+        QStringLiteral("a.App|a.App_1.0.0.0_x64__pid|1.20.300.4000|pid|a.App_pid"));
 }
 
 void tst_WinAppScanner::runtimeFailureStillDeliversWhatWasFound()

@@ -76,6 +76,7 @@ private slots:
 private:
     QList<WinAppRow*> rows(WinAppsPage& page) { return page.findChildren<WinAppRow*>(); }
     QString count(WinAppsPage& page) { return page.findChild<QLabel*>("WinAppsCount")->text(); }
+    static void click(QWidget* row) { QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(200, 10)); }
 };
 
 void tst_WinAppsPage::refreshShowsTheBannerUntilTheScanEnds()
@@ -139,11 +140,11 @@ void tst_WinAppsPage::selectionDrivesTheRemoveButton()
     QVERIFY(!remove->isEnabled());
 
     const auto list = rows(page);
-    QTest::mouseClick(list[0], Qt::LeftButton, {}, QPoint(200, 10));
-    QTest::mouseClick(list[2], Qt::LeftButton, {}, QPoint(200, 10));
+    click(list[0]);
+    click(list[2]);
     QCOMPARE(remove->text(), QStringLiteral("🗑  移除所选 (2)"));
     QVERIFY(remove->isEnabled());
-    QTest::mouseClick(list[0], Qt::LeftButton, {}, QPoint(200, 10));
+    click(list[0]);
     QCOMPARE(remove->text(), QStringLiteral("🗑  移除所选 (1)"));
 }
 
@@ -156,8 +157,8 @@ void tst_WinAppsPage::everyRemovalFailedShowsTheCriticalBox()
     page.setProcessRunner(runner);
     page.onScanDone({ app("Notes", "P"), app("Paint <b>", "P"), app("Zune", "P") });
     const auto list = rows(page);
-    QTest::mouseClick(list[0], Qt::LeftButton, {}, QPoint(200, 10));
-    QTest::mouseClick(list[1], Qt::LeftButton, {}, QPoint(200, 10));
+    click(list[0]);
+    click(list[1]);
 
     QString question;
     onNextBox([&](QMessageBox* box) {
@@ -209,15 +210,13 @@ void tst_WinAppsPage::avatarColours_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("colour");
-    QTest::newRow("empty name: first colour") << ""
-                                              << "#0ea5e9";
-    QTest::newRow("A is 0x41: index 1") << "Alarms"
-                                        << "#8b5cf6";
-    QTest::newRow("same letter, same colour") << "Apple"
-                                              << "#8b5cf6";
-    QTest::newRow("H is 0x48: wraps to 0") << "Help"
-                                           << "#0ea5e9";
-    QTest::newRow("a Chinese first character") << QStringLiteral("应用商店") << "#ef4444";
+    const auto row = [](const char* tag, const QString& name, const char* colour) {
+        QTest::newRow(tag) << name << QString::fromLatin1(colour);
+    };
+    row("empty name: first colour", "", "#0ea5e9");
+    row("A is 0x41: index 1", "Alarms", "#8b5cf6");
+    row("H is 0x48: wraps to 0", "Help", "#0ea5e9");
+    row("a Chinese first character", QStringLiteral("应用商店"), "#ef4444");
 }
 
 void tst_WinAppsPage::avatarColours()

@@ -28,6 +28,11 @@ protected:
 
     void write(const std::string& text) { std::ofstream(m_root / "packages.txt", std::ios::binary) << text; }
 
+    static std::vector<int> parts(const platform::PackageVersion& v)
+    {
+        return { v.major, v.minor, v.build, v.revision };
+    }
+
     // Every package the filter lets through, and what the filter saw.
     std::vector<PackageRecord> walk(std::vector<PackageRecord>* seen = nullptr, bool keep = true)
     {
@@ -62,9 +67,7 @@ TEST_F(SandboxCatalogueTest, PackagesComeInFileOrderAndTheFilterSeesOnlyTheFirst
     const PackageRecord& notes = packages[0];
     EXPECT_EQ(notes.fullName, L"Contoso.Notes_1.2.3.4_x64__abc");
     EXPECT_EQ(notes.familyName + L"|" + notes.publisherId, L"Contoso.Notes_abc|abc");
-    EXPECT_EQ(
-        notes.version.major + notes.version.minor * 10 + notes.version.build * 100 + notes.version.revision * 1000,
-        4321);
+    EXPECT_EQ(parts(notes.version), (std::vector<int> { 1, 2, 3, 4 }));
     EXPECT_EQ(notes.installLocation, (m_root / "C/Program Files/WindowsApps/Notes").wstring());
     EXPECT_EQ(notes.publisherDisplayName, L"Contoso = Ltd");
     EXPECT_TRUE(notes.isBundle);
@@ -102,10 +105,7 @@ TEST_F(SandboxCatalogueTest, JunkLinesAndBadValuesAreSkippedAndTheRestIsRead)
     const auto packages = walk();
     ASSERT_EQ(packages.size(), 2u);
     EXPECT_EQ(packages[0].name, L"");
-    EXPECT_EQ(packages[0].version.major, 0);
-    EXPECT_EQ(packages[0].version.minor, 1);
-    EXPECT_EQ(packages[0].version.build, 0);
-    EXPECT_EQ(packages[0].version.revision, 3);
+    EXPECT_EQ(parts(packages[0].version), (std::vector<int> { 0, 1, 0, 3 }));
     EXPECT_EQ(packages[0].signature, PackageSignature::None);
     EXPECT_EQ(packages[1].name, L"Second");
 
