@@ -11,7 +11,6 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -176,13 +175,13 @@ private slots:
     {
         QTest::addColumn<QList<int>>("choices"); // sort box indices, in the order chosen
         QTest::addColumn<QStringList>("order");
-        QTest::newRow("by size, ties keep the list's order")
-            << QList<int> { 0 } << QStringList { "C", "beta", "Alpha", "Beta" };
-        QTest::newRow("by date, newest first, no date last")
-            << QList<int> { 1 } << QStringList { "beta", "Beta", "C", "Alpha" };
-        QTest::newRow("by name, capitals first") << QList<int> { 2 } << QStringList { "Alpha", "Beta", "C", "beta" };
-        QTest::newRow("by size after by name keeps name order among ties")
-            << QList<int> { 2, 0 } << QStringList { "C", "Alpha", "Beta", "beta" };
+        const auto row = [](const char* what, const QList<int>& choices, const QStringList& order) {
+            QTest::newRow(what) << choices << order;
+        };
+        row("by size, ties keep the list's order", { 0 }, { "C", "beta", "Alpha", "Beta" });
+        row("by date, newest first, no date last", { 1 }, { "beta", "Beta", "C", "Alpha" });
+        row("by name, capitals first", { 2 }, { "Alpha", "Beta", "C", "beta" });
+        row("by size after by name keeps name order among ties", { 2, 0 }, { "C", "Alpha", "Beta", "beta" });
     }
     void sorting()
     {
@@ -254,9 +253,9 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("batch");
         QTest::addColumn<QStringList>("modals");
-        QTest::newRow("program still listed") << "Steam" << false << QStringList { "Uninstall Failed", "Force Remove" };
-        QTest::newRow("program gone from the list")
-            << "Ghost" << false << QStringList { "Uninstall Failed", "Not Found" };
+        const QStringList failed { "Uninstall Failed" };
+        QTest::newRow("program still listed") << "Steam" << false << failed + QStringList { "Force Remove" };
+        QTest::newRow("program gone from the list") << "Ghost" << false << failed + QStringList { "Not Found" };
         // The sandbox runs no "u.exe", so the batch's only uninstall fails.
         QTest::newRow("failure inside a batch")
             << "Steam" << true << QStringList { "Batch Uninstall", "Uninstall Failed", "Force Remove" };
