@@ -245,7 +245,7 @@ private slots:
 
     void allowedTargets_data()
     {
-        QTest::addColumn<QString>("relative"); // below the sandbox's C folder; "" is the drive root
+        QTest::addColumn<QString>("relative"); // "/…" is below the sandbox's C folder; "" is the drive root
         QTest::addColumn<int>("category");
         QTest::addColumn<bool>("allowed");
         QTest::newRow("a program's folder") << "/Users/User/AppData/Roaming/App" << 0 << true;
@@ -259,15 +259,16 @@ private slots:
         QTest::newRow("temp folder removed whole") << "/Users/User/AppData/Local/Temp" << 0 << false;
         QTest::newRow("Windows holds its temp") << "/Windows" << 4 << false;
         QTest::newRow("inside temp") << "/Windows/Temp/setup" << 0 << true;
+        QTest::newRow("network share") << "\\\\server\\share\\App" << 0 << false;
+        QTest::newRow("relative path") << "Relative/App" << 0 << false;
     }
     void allowedTargets()
     {
         QFETCH(QString, relative);
         QFETCH(int, category);
         ResidueScanner scanner;
-        QTEST(ResidueScanner::isAllowedTarget(drive() + relative, category, scanner.roots()), "allowed");
-        QVERIFY(!ResidueScanner::isAllowedTarget("\\\\server\\share\\App", 0, scanner.roots()));
-        QVERIFY(!ResidueScanner::isAllowedTarget("Relative/App", 0, scanner.roots()));
+        const QString path = relative.isEmpty() || relative.startsWith('/') ? drive() + relative : relative;
+        QTEST(ResidueScanner::isAllowedTarget(path, category, scanner.roots()), "allowed");
     }
 
     // A link counts nothing and its target survives the clean; a loop does not trap the walk.
