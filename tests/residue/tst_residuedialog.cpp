@@ -51,11 +51,17 @@ class tst_ResidueDialog : public QObject {
 
     QString roaming() const { return m_dir->path() + "/sandbox/C/Users/User/AppData/Roaming"; }
 
+    static void showAndScan(ResidueDialog& dialog)
+    {
+        QSignalSpy finished(dialog.scanner(), &ResidueScanner::scanFinished);
+        dialog.show();
+        QVERIFY(signalled(finished, 5000));
+    }
+
 private slots:
     void init()
     {
         platform::setCurrent(nullptr);
-        m_platform.reset();
         m_dir = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir().mkpath(m_dir->path() + "/sandbox/C"));
         m_platform = std::make_unique<platform::SandboxPlatform>((m_dir->path() + "/sandbox").toStdWString());
@@ -68,26 +74,18 @@ private slots:
         QTest::addColumn<qint64>("bytes");
         QTest::addColumn<QString>("size");
         QTest::addColumn<QString>("colour");
-        QTest::newRow("zero") << qint64(0) << "0 B"
-                              << "#64748b";
-        QTest::newRow("bytes") << qint64(1023) << "1023 B"
-                               << "#64748b";
-        QTest::newRow("one KiB") << KiB << "1 KB"
-                                 << "#64748b";
-        QTest::newRow("KiB rounded") << qint64(1536) << "2 KB"
-                                     << "#64748b";
-        QTest::newRow("just below a MiB") << MiB - 1 << "1024 KB"
-                                          << "#64748b";
-        QTest::newRow("10 MiB stays grey") << 10 * MiB << "10 MB"
-                                           << "#64748b";
-        QTest::newRow("above 10 MiB is amber") << 10 * MiB + 1 << "10 MB"
-                                               << "#f59e0b";
-        QTest::newRow("100 MiB stays amber") << 100 * MiB << "100 MB"
-                                             << "#f59e0b";
-        QTest::newRow("above 100 MiB is red") << 100 * MiB + 1 << "100 MB"
-                                              << "#ef4444";
-        QTest::newRow("GiB with a decimal") << GiB + GiB / 2 << "1.5 GB"
-                                            << "#ef4444";
+        const auto row = [](const char* what, qint64 bytes, const char* size, const char* colour) {
+            QTest::newRow(what) << bytes << size << colour;
+        };
+        row("bytes", 1023, "1023 B", "#64748b");
+        row("one KiB", KiB, "1 KB", "#64748b");
+        row("KiB rounded", 1536, "2 KB", "#64748b");
+        row("just below a MiB", MiB - 1, "1024 KB", "#64748b");
+        row("10 MiB stays grey", 10 * MiB, "10 MB", "#64748b");
+        row("above 10 MiB is amber", 10 * MiB + 1, "10 MB", "#f59e0b");
+        row("100 MiB stays amber", 100 * MiB, "100 MB", "#f59e0b");
+        row("above 100 MiB is red", 100 * MiB + 1, "100 MB", "#ef4444");
+        row("GiB with a decimal", GiB + GiB / 2, "1.5 GB", "#ef4444");
     }
     void texts()
     {
@@ -96,27 +94,18 @@ private slots:
         QTEST(ResidueRowWidget::sizeColor(bytes), "colour");
     }
 
-    void shortenPath_data()
-    {
-        QTest::addColumn<int>("length");
-        QTest::addColumn<QString>("shown");
-        const QString digits = QString("0123456789").repeated(6);
-        QTest::newRow("55 kept") << 55 << digits.left(55);
-        QTest::newRow("56 cut to its end") << 56 << "..." + digits.left(56).right(52);
-    }
     void shortenPath()
     {
-        QFETCH(int, length);
-        QTEST(ResidueDialog::shortenPath(QString("0123456789").repeated(6).left(length)), "shown");
+        const QString digits = QString("0123456789").repeated(6);
+        QCOMPARE(ResidueDialog::shortenPath(digits.left(55)), digits.left(55));
+        QCOMPARE(ResidueDialog::shortenPath(digits.left(56)), "..." + digits.left(56).right(52));
     }
 
     void emptyResult()
     {
         ResidueDialog dialog(QList<UninstalledApp> {}, nullptr);
         QCOMPARE(text(dialog, "ResidueStatus"), QString("Initializing..."));
-        QSignalSpy finished(dialog.scanner(), &ResidueScanner::scanFinished);
-        dialog.show();
-        QVERIFY(signalled(finished, 5000));
+        showAndScan(dialog);
         QTRY_COMPARE(text(dialog, "ResidueSummary"), QString("No residue files found"));
         QVERIFY(dialog.findChild<QLabel*>("ResidueEmpty")->isVisible());
         QVERIFY(!dialog.findChild<QPushButton*>("ResidueCleanButton")->isEnabled());
@@ -128,12 +117,9 @@ private slots:
         blob(roaming() + "/Spotify/a", 6 * MiB);
         blob(roaming() + "/Slack/a", 1 * MiB);
         ResidueDialog dialog(QList<InstalledApp> {}, nullptr);
-        QSignalSpy finished(dialog.scanner(), &ResidueScanner::scanFinished);
-        dialog.show();
-        QVERIFY(signalled(finished, 5000));
+        showAndScan(dialog);
         QTRY_COMPARE(dialog.rows().size(), 2);
         QCOMPARE(text(dialog, "ResidueSummary"), QString("Found <b>2</b> items  ·  <b>7 MB</b> reclaimable"));
-        // The large one is ticked for the user, the small one is not.
         QVERIFY(dialog.rows().at(0)->isChecked());
         QVERIFY(!dialog.rows().at(1)->isChecked());
         QCOMPARE(dialog.rows().at(1)->findChild<QLabel*>("ResidueSafetyBadge")->text(), QString("Safe"));
@@ -166,9 +152,7 @@ private slots:
         app.name = "Paint";
         app.installLocation = "C:\\Program Files\\Paint";
         ResidueDialog dialog(QList<UninstalledApp> { app }, nullptr);
-        QSignalSpy finished(dialog.scanner(), &ResidueScanner::scanFinished);
-        dialog.show();
-        QVERIFY(signalled(finished, 5000));
+        showAndScan(dialog);
         QTRY_COMPARE(dialog.rows().size(), 1);
         QVERIFY(!dialog.rows().at(0)->isChecked());
         QCOMPARE(dialog.rows().at(0)->findChild<QLabel*>("ResidueSafetyBadge")->text(), QString("Confirm"));

@@ -222,284 +222,187 @@ bool englishWordingKeepsItsOwnSymbol(const QString& code, const Message& m)
 class tst_Catalogues : public QObject {
     Q_OBJECT
 
-private slots:
-    void initTestCase();
-
-    void everyEntryFinished_data() { codes(); }
-    void everyEntryFinished();
-    void matchesTheCode_data() { codes(); }
-    void matchesTheCode();
-    void placeholdersKept_data() { codes(); }
-    void placeholdersKept();
-    void markupKept_data() { codes(); }
-    void markupKept();
-    void leadingSymbolKept_data() { codes(); }
-    void leadingSymbolKept();
-    void layoutDirection_data();
-    void layoutDirection();
-
-    void translates_data();
-    void translates();
-
-    void detectorsCatchFaults_data();
-    void detectorsCatchFaults();
-
-private:
-    static void codes();
-    Catalogue catalogue(const QString& code);
-
     QTemporaryDir refreshed;
     QString lupdateError;
     QHash<QString, Catalogue> cache;
+
+    static void codes()
+    {
+        QTest::addColumn<QString>("code");
+        for (const char* code : Codes)
+            QTest::newRow(code) << QString::fromLatin1(code);
+    }
+
+    Catalogue catalogue(const QString& code)
+    {
+        if (!cache.contains(code))
+            cache.insert(code, readCatalogue(sourcePath(code)));
+        return cache.value(code);
+    }
+
+private slots:
+    // One lupdate run refreshes copies of all catalogues exactly as the update_translations target
+    // would refresh the real ones; each test row then compares its catalogue with its copy.
+    void initTestCase()
+    {
+        QVERIFY(refreshed.isValid());
+        QStringList arguments { QStringLiteral("-no-obsolete"), QStringLiteral("-locations"), QStringLiteral("none"),
+            QStringLiteral("-silent"), QStringLiteral("@" NORVALE_LUPDATE_SOURCES), QStringLiteral("-ts") };
+        for (const char* code : Codes) {
+            const QString copy = refreshed.filePath(QStringLiteral("Norvale_%1.ts").arg(QLatin1String(code)));
+            if (QFile::copy(sourcePath(QLatin1String(code)), copy))
+                arguments.append(copy);
+        }
+        QProcess lupdate;
+        lupdate.start(QStringLiteral(NORVALE_LUPDATE), arguments);
+        if (!lupdate.waitForFinished(120000) || lupdate.exitStatus() != QProcess::NormalExit || lupdate.exitCode() != 0)
+            lupdateError = QStringLiteral("lupdate failed: %1 %2")
+                               .arg(lupdate.errorString(), QString::fromLocal8Bit(lupdate.readAllStandardError()));
+    }
+
+    void everyEntryFinished_data() { codes(); }
+    void everyEntryFinished()
+    {
+        QFETCH(QString, code);
+        const Catalogue cat = catalogue(code);
+        QVERIFY2(cat.readable, qPrintable(sourcePath(code) + QStringLiteral(": ") + cat.error));
+        QVERIFY2(!cat.messages.isEmpty(), "no messages");
+        QStringList problems;
+        for (const Message& m : cat.messages) {
+            if (!m.type.isEmpty())
+                problems.append(m.type + QStringLiteral(": ") + m.where());
+            else if (m.translation.isEmpty())
+                problems.append(QStringLiteral("empty: ") + m.where());
+        }
+        QVERIFY2(problems.isEmpty(), qPrintable(summarise(problems)));
+    }
+
+    void matchesTheCode_data() { codes(); }
+    void matchesTheCode()
+    {
+        QFETCH(QString, code);
+        QVERIFY2(lupdateError.isEmpty(), qPrintable(lupdateError));
+        const Catalogue cat = catalogue(code);
+        const Catalogue fromCode = readCatalogue(refreshed.filePath(QStringLiteral("Norvale_%1.ts").arg(code)));
+        QVERIFY2(cat.readable && fromCode.readable, qPrintable(cat.error + fromCode.error));
+        QSet<QString> inCatalogue, inCode;
+        for (const Message& m : cat.messages)
+            inCatalogue.insert(m.key());
+        QStringList problems;
+        for (const Message& m : fromCode.messages) {
+            inCode.insert(m.key());
+            if (!inCatalogue.contains(m.key()))
+                problems.append(QStringLiteral("missing: ") + m.where());
+        }
+        for (const Message& m : cat.messages) {
+            if (!inCode.contains(m.key()))
+                problems.append(QStringLiteral("no longer in the code: ") + m.where());
+        }
+        QVERIFY2(problems.isEmpty(), qPrintable(summarise(problems)));
+    }
+
+    // Placeholders, markup and the leading symbol survive translation, each reported by its rule.
+    void translationsKeepTheirForm_data() { codes(); }
+    void translationsKeepTheirForm()
+    {
+        QFETCH(QString, code);
+        QStringList problems;
+        for (const Message& m : catalogue(code).messages) {
+            if (m.translation.isEmpty())
+                continue;
+            QString error = markupError(m.source, m.translation);
+            if (placeholderCounts(m.source) != placeholderCounts(m.translation))
+                error = QStringLiteral("placeholders differ");
+            else if (error.isEmpty() && !englishWordingKeepsItsOwnSymbol(code, m)
+                && !keepsLeadingSymbol(m.source, m.translation))
+                error = QStringLiteral("leading symbol lost");
+            if (!error.isEmpty())
+                problems.append(error + QStringLiteral(": ") + m.where() + QStringLiteral(" → \"") + m.translation
+                    + QLatin1Char('"'));
+        }
+        QVERIFY2(problems.isEmpty(), qPrintable(summarise(problems)));
+    }
+
+    // Qt, not the program, turns the catalogue's answer into the window's direction: the compiled
+    // catalogue must answer Qt's own question, comment and all.
+    void layoutDirection_data() { codes(); }
+    void layoutDirection()
+    {
+        QFETCH(QString, code);
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(":/translations/translations/Norvale_%1.qm").arg(code)));
+        // Qt refuses to install a catalogue with no finished entry at all.
+        QVERIFY2(QCoreApplication::installTranslator(&translator), "the catalogue holds no translation");
+        QCoreApplication::sendPostedEvents(qApp, QEvent::LanguageChange);
+        const Qt::LayoutDirection direction = QGuiApplication::layoutDirection();
+        QCoreApplication::removeTranslator(&translator);
+        QCoreApplication::sendPostedEvents(qApp, QEvent::LanguageChange);
+        QCOMPARE(direction, code == QLatin1String("ar") ? Qt::RightToLeft : Qt::LeftToRight);
+    }
+
+    void translates_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("context");
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("expected");
+        const auto row
+            = [](const char* what, const char* code, const char* context, const char* source, const char* expected) {
+                  QTest::newRow(what) << code << context << QString::fromUtf8(source) << QString::fromUtf8(expected);
+              };
+        row("en: Chinese-source sidebar text", "en", "Sidebar", "系统概览", "System Overview");
+        row("en: English source with its own English text", "en", "TitleBar", "Quit", "Exit");
+        row("en: misspelt About source gets the proper word", "en", "TitleBar", "ℹ️  Qbout Norvale",
+            "ℹ️  About Norvale");
+        row("en: English source answers with itself", "en", "ForceRemoveRowWidget", "Service", "Service");
+        row("zh_CN: English-source menu text", "zh_CN", "TitleBar", "Quit", "退出");
+        row("zh_CN: Chinese source answers with itself", "zh_CN", "Sidebar", "系统概览", "系统概览");
+    }
+    void translates()
+    {
+        QFETCH(QString, code);
+        QFETCH(QString, context);
+        QFETCH(QString, source);
+        QTranslator translator;
+        const QString qm = QStringLiteral(":/translations/translations/Norvale_%1.qm").arg(code);
+        QVERIFY2(translator.load(qm), qPrintable(qm));
+        QTEST(translator.translate(context.toUtf8().constData(), source.toUtf8().constData()), "expected");
+    }
+
+    // The checks above pass vacuously if their detectors see nothing; each row shows one firing on
+    // the kind of slip a translator makes.
+    void detectorsCatchFaults_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("translation");
+        QTest::addColumn<bool>("placeholdersOk");
+        QTest::addColumn<bool>("markupOk");
+        QTest::addColumn<bool>("symbolOk");
+        const auto row = [](const char* what, const char* source, const char* translation, bool placeholders,
+                             bool markup, bool symbol) {
+            QTest::newRow(what) << QString::fromUtf8(source) << QString::fromUtf8(translation) << placeholders << markup
+                                << symbol;
+        };
+        row("faithful", "🗑  Remove <b>%1</b> of %2", "🗑  Entfernen: <b>%1</b> von %2", true, true, true);
+        row("placeholders reordered", "%1 / %2", "%2 中的 %1", true, true, true);
+        row("placeholder dropped", "Removing %1 (%2/%3)", "Entferne %1 (%2)", false, true, true);
+        row("%10 is not %1", "%1 items", "%10 items", false, true, true);
+        row("tags crossed", "<b><i>x</i></b>", "<b><i>x</b></i>", true, false, true);
+        row("tag restyled", "<span style='color:red;'>x</span>", "<span style=\"color:red\">x</span>", true, false,
+            true);
+        row("entity left bare", "<b>A</b> &amp; B", "<b>A</b> & B", true, false, true);
+        row("emoji blank narrowed", "🗑  Remove selected", "🗑 Auswahl entfernen", true, true, false);
+        row("emoji with selector", "ℹ️  Qbout Norvale", "ℹ️  À propos de Norvale", true, true, true);
+    }
+    void detectorsCatchFaults()
+    {
+        QFETCH(QString, source);
+        QFETCH(QString, translation);
+        QTEST(placeholderCounts(source) == placeholderCounts(translation), "placeholdersOk");
+        QTEST(markupError(source, translation).isEmpty(), "markupOk");
+        QTEST(keepsLeadingSymbol(source, translation), "symbolOk");
+    }
 };
-
-void tst_Catalogues::codes()
-{
-    QTest::addColumn<QString>("code");
-    for (const char* code : Codes)
-        QTest::newRow(code) << QString::fromLatin1(code);
-}
-
-Catalogue tst_Catalogues::catalogue(const QString& code)
-{
-    if (!cache.contains(code))
-        cache.insert(code, readCatalogue(sourcePath(code)));
-    return cache.value(code);
-}
-
-// One lupdate run refreshes copies of all catalogues exactly as the update_translations target
-// would refresh the real ones; each test row then compares its catalogue with its copy.
-void tst_Catalogues::initTestCase()
-{
-    QVERIFY(refreshed.isValid());
-    QStringList arguments { QStringLiteral("-no-obsolete"), QStringLiteral("-locations"), QStringLiteral("none"),
-        QStringLiteral("-silent"), QStringLiteral("@" NORVALE_LUPDATE_SOURCES), QStringLiteral("-ts") };
-    for (const char* code : Codes) {
-        const QString copy = refreshed.filePath(QStringLiteral("Norvale_%1.ts").arg(QLatin1String(code)));
-        if (QFile::copy(sourcePath(QLatin1String(code)), copy))
-            arguments.append(copy);
-    }
-    QProcess lupdate;
-    lupdate.start(QStringLiteral(NORVALE_LUPDATE), arguments);
-    if (!lupdate.waitForFinished(120000) || lupdate.exitStatus() != QProcess::NormalExit || lupdate.exitCode() != 0)
-        lupdateError = QStringLiteral("lupdate failed: %1 %2")
-                           .arg(lupdate.errorString(), QString::fromLocal8Bit(lupdate.readAllStandardError()));
-}
-
-void tst_Catalogues::everyEntryFinished()
-{
-    QFETCH(QString, code);
-    const Catalogue cat = catalogue(code);
-    QVERIFY2(cat.readable, qPrintable(sourcePath(code) + QStringLiteral(": ") + cat.error));
-    QVERIFY2(!cat.messages.isEmpty(), "no messages");
-
-    QStringList problems;
-    for (const Message& m : cat.messages) {
-        if (!m.type.isEmpty())
-            problems.append(m.type + QStringLiteral(": ") + m.where());
-        else if (m.translation.isEmpty())
-            problems.append(QStringLiteral("empty: ") + m.where());
-    }
-    QVERIFY2(problems.isEmpty(), qPrintable(summarise(problems)));
-}
-
-void tst_Catalogues::matchesTheCode()
-{
-    QFETCH(QString, code);
-    QVERIFY2(lupdateError.isEmpty(), qPrintable(lupdateError));
-    const Catalogue cat = catalogue(code);
-    const Catalogue fromCode = readCatalogue(refreshed.filePath(QStringLiteral("Norvale_%1.ts").arg(code)));
-    QVERIFY2(cat.readable && fromCode.readable, qPrintable(cat.error + fromCode.error));
-
-    QSet<QString> inCatalogue;
-    for (const Message& m : cat.messages)
-        inCatalogue.insert(m.key());
-    QSet<QString> inCode;
-    QStringList problems;
-    for (const Message& m : fromCode.messages) {
-        inCode.insert(m.key());
-        if (!inCatalogue.contains(m.key()))
-            problems.append(QStringLiteral("missing: ") + m.where());
-    }
-    for (const Message& m : cat.messages) {
-        if (!inCode.contains(m.key()))
-            problems.append(QStringLiteral("no longer in the code: ") + m.where());
-    }
-    QVERIFY2(problems.isEmpty(), qPrintable(summarise(problems)));
-}
-
-void tst_Catalogues::placeholdersKept()
-{
-    QFETCH(QString, code);
-    QStringList problems;
-    for (const Message& m : catalogue(code).messages) {
-        if (!m.translation.isEmpty() && placeholderCounts(m.source) != placeholderCounts(m.translation))
-            problems.append(m.where() + QStringLiteral(" → \"") + m.translation + QLatin1Char('"'));
-    }
-    QVERIFY2(problems.isEmpty(), qPrintable(summarise(problems)));
-}
-
-void tst_Catalogues::markupKept()
-{
-    QFETCH(QString, code);
-    QStringList problems;
-    for (const Message& m : catalogue(code).messages) {
-        if (m.translation.isEmpty())
-            continue;
-        const QString error = markupError(m.source, m.translation);
-        if (!error.isEmpty())
-            problems.append(
-                error + QStringLiteral(": ") + m.where() + QStringLiteral(" → \"") + m.translation + QLatin1Char('"'));
-    }
-    QVERIFY2(problems.isEmpty(), qPrintable(summarise(problems)));
-}
-
-void tst_Catalogues::leadingSymbolKept()
-{
-    QFETCH(QString, code);
-    QStringList problems;
-    for (const Message& m : catalogue(code).messages) {
-        if (m.translation.isEmpty() || englishWordingKeepsItsOwnSymbol(code, m))
-            continue;
-        if (!keepsLeadingSymbol(m.source, m.translation))
-            problems.append(m.where() + QStringLiteral(" → \"") + m.translation + QLatin1Char('"'));
-    }
-    QVERIFY2(problems.isEmpty(), qPrintable(summarise(problems)));
-}
-
-void tst_Catalogues::layoutDirection_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<Qt::LayoutDirection>("expected");
-    for (const char* code : Codes) {
-        const bool rightToLeft = qstrcmp(code, "ar") == 0;
-        QTest::newRow(code) << QString::fromLatin1(code) << (rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    }
-}
-
-// Qt, not the program, turns the catalogue's answer into the window's direction: the compiled
-// catalogue must answer Qt's own question, comment and all.
-void tst_Catalogues::layoutDirection()
-{
-    QFETCH(QString, code);
-    QFETCH(Qt::LayoutDirection, expected);
-
-    QTranslator translator;
-    QVERIFY(translator.load(QStringLiteral(":/translations/translations/Norvale_%1.qm").arg(code)));
-    // Qt refuses to install a catalogue with no finished entry at all.
-    QVERIFY2(QCoreApplication::installTranslator(&translator), "the catalogue holds no translation");
-    QCoreApplication::sendPostedEvents(qApp, QEvent::LanguageChange);
-    const Qt::LayoutDirection direction = QGuiApplication::layoutDirection();
-    QCoreApplication::removeTranslator(&translator);
-    QCoreApplication::sendPostedEvents(qApp, QEvent::LanguageChange);
-    QCOMPARE(direction, expected);
-}
-
-void tst_Catalogues::translates_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("context");
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("en: Chinese-source sidebar text") << "en"
-                                                     << "Sidebar" << QString::fromUtf8("系统概览") << "System Overview";
-    QTest::newRow("en: English source with its own English text") << "en"
-                                                                  << "TitleBar"
-                                                                  << "Quit"
-                                                                  << "Exit";
-    QTest::newRow("en: misspelt About source gets the proper word")
-        << "en"
-        << "TitleBar" << QString::fromUtf8("ℹ️  Qbout Norvale") << QString::fromUtf8("ℹ️  About Norvale");
-    QTest::newRow("en: English source answers with itself") << "en"
-                                                            << "ForceRemoveRowWidget"
-                                                            << "Service"
-                                                            << "Service";
-    QTest::newRow("zh_CN: English-source menu text") << "zh_CN"
-                                                     << "TitleBar"
-                                                     << "Quit" << QString::fromUtf8("退出");
-    QTest::newRow("zh_CN: Chinese source answers with itself")
-        << "zh_CN"
-        << "Sidebar" << QString::fromUtf8("系统概览") << QString::fromUtf8("系统概览");
-}
-
-void tst_Catalogues::translates()
-{
-    QFETCH(QString, code);
-    QFETCH(QString, context);
-    QFETCH(QString, source);
-    QFETCH(QString, expected);
-
-    QTranslator translator;
-    const QString qm = QStringLiteral(":/translations/translations/Norvale_%1.qm").arg(code);
-    QVERIFY2(translator.load(qm), qPrintable(qm));
-    QCOMPARE(translator.translate(context.toUtf8().constData(), source.toUtf8().constData()), expected);
-}
-
-// The checks above pass vacuously if their detectors see nothing; these rows show each one
-// firing on the kind of slip a translator makes.
-void tst_Catalogues::detectorsCatchFaults_data()
-{
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("translation");
-    QTest::addColumn<bool>("placeholdersOk");
-    QTest::addColumn<bool>("markupOk");
-    QTest::addColumn<bool>("symbolOk");
-
-    QTest::newRow("faithful") << "🗑  Remove <b>%1</b> of %2"
-                              << "🗑  Entfernen: <b>%1</b> von %2" << true << true << true;
-    QTest::newRow("placeholders reordered") << "%1 / %2"
-                                            << "%2 中的 %1" << true << true << true;
-    QTest::newRow("placeholder dropped") << "Removing %1 (%2/%3)"
-                                         << "Entferne %1 (%2)" << false << true << true;
-    QTest::newRow("placeholder doubled") << "Done: %1"
-                                         << "%1 fertig: %1" << false << true << true;
-    QTest::newRow("%10 is not %1") << "%1 items"
-                                   << "%10 items" << false << true << true;
-    QTest::newRow("tag moved") << "Found <b>%1</b> items"
-                               << "<b>%1</b> gefunden" << true << true << true;
-    QTest::newRow("tag unclosed") << "Freed <b>%1</b>"
-                                  << "<b>%1 freigegeben" << true << false << true;
-    QTest::newRow("tags crossed") << "<b><i>x</i></b>"
-                                  << "<b><i>x</b></i>" << true << false << true;
-    QTest::newRow("tag restyled") << "<span style='color:red;'>x</span>"
-                                  << "<span style=\"color:red\">x</span>" << true << false << true;
-    QTest::newRow("entity left bare") << "<b>A</b> &amp; B"
-                                      << "<b>A</b> & B" << true << false << true;
-    QTest::newRow("entity said in words")
-        << "<b>A</b> &amp; B" << QString::fromUtf8("<b>A</b> 和 B") << true << true << true;
-    QTest::newRow("markup opens the text")
-        << "<b>%1</b> programs" << QString::fromUtf8("共 <b>%1</b> 个程序") << true << true << true;
-    QTest::newRow("line break lost") << "a<br>b"
-                                     << "a b" << true << false << true;
-    QTest::newRow("emoji lost") << "🗑  Remove selected"
-                                << "Auswahl entfernen" << true << true << false;
-    QTest::newRow("emoji blank narrowed") << "🗑  Remove selected"
-                                          << "🗑 Auswahl entfernen" << true << true << false;
-    QTest::newRow("emoji blank widened") << "☑ Select All"
-                                         << "☑  Alle" << true << true << false;
-    QTest::newRow("emoji with selector") << "ℹ️  Qbout Norvale"
-                                         << "ℹ️  À propos de Norvale" << true << true << true;
-    QTest::newRow("bullet kept") << "• %1：%2"
-                                 << "• %1: %2" << true << true << true;
-    QTest::newRow("symbol alone is no lead") << "▼"
-                                             << "▼" << true << true << true;
-    QTest::newRow("trailing symbol is free") << "Done ✓"
-                                             << "✓ Fertig" << true << true << true;
-}
-
-void tst_Catalogues::detectorsCatchFaults()
-{
-    QFETCH(QString, source);
-    QFETCH(QString, translation);
-    QFETCH(bool, placeholdersOk);
-    QFETCH(bool, markupOk);
-    QFETCH(bool, symbolOk);
-
-    QCOMPARE(placeholderCounts(source) == placeholderCounts(translation), placeholdersOk);
-    QCOMPARE(markupError(source, translation).isEmpty(), markupOk);
-    QCOMPARE(keepsLeadingSymbol(source, translation), symbolOk);
-}
 
 QTEST_MAIN(tst_Catalogues)
 #include "tst_catalogues.moc"
