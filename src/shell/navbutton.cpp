@@ -1,35 +1,20 @@
 #include "navbutton.h"
 
+#include "widgets/iconpixmap.h"
+#include "widgets/iconsizes.h"
+
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPixmap>
 #include <QStyle>
-#include <QSvgRenderer>
 #include <QtMath>
 
 namespace {
 
 constexpr int ButtonHeight = 36;
-constexpr int IconSize = 18;
-
-QPixmap renderSvgIcon(const QString& resource)
-{
-    const qreal ratio = qApp->devicePixelRatio();
-    const int side = qRound(IconSize * ratio);
-    QPixmap pixmap(side, side);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QSvgRenderer renderer(resource);
-    if (renderer.isValid()) {
-        QPainter painter(&pixmap);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        renderer.render(&painter, QRectF(0, 0, IconSize, IconSize));
-    }
-    return pixmap;
-}
+constexpr int IconSize = iconsizes::Navigation;
 
 } // namespace
 
@@ -48,7 +33,7 @@ NavButton::NavButton(const QString& icon, const QString& text, const QString& ba
     iconLabel->setAlignment(Qt::AlignCenter);
     iconLabel->setStyleSheet(QStringLiteral("background:transparent;"));
     if (icon.startsWith(QLatin1String(":/"))) {
-        iconLabel->setPixmap(renderSvgIcon(icon));
+        iconLabel->setPixmap(iconPixmap(icon, IconSize, qApp->devicePixelRatio()));
     } else if (!icon.isEmpty()) {
         iconLabel->setText(icon);
         iconLabel->setStyleSheet(QStringLiteral("font-size:14px; background:transparent; color:white;"));

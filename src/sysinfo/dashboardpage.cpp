@@ -2,6 +2,8 @@
 
 #include "systeminfoscanner.h"
 #include "widgets/circlebadge.h"
+#include "widgets/iconpixmap.h"
+#include "widgets/iconsizes.h"
 #include "widgets/ringgauge.h"
 
 #include "platform/platform.h"
@@ -12,7 +14,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSvgRenderer>
 #include <QVBoxLayout>
 
 namespace {
@@ -36,7 +37,6 @@ const QuickAction QuickActions[] = {
         "#fef3c7", 4 },
 };
 
-constexpr int WindowsLogoPixels = 30; // inside the 60 px disc
 constexpr quint64 MsPerDay = 86'400'000;
 constexpr quint64 MsPerHour = 3'600'000;
 constexpr quint64 MsPerMinute = 60'000;
@@ -51,21 +51,6 @@ int gaugeValue(qint64 percent)
 QString gigabytes(quint64 used, quint64 total)
 {
     return QStringLiteral("%1/%2 GB").arg(used).arg(total);
-}
-
-QPixmap windowsLogo(qreal devicePixelRatio)
-{
-    QSvgRenderer renderer(QStringLiteral(":/icons/icons/windows-logo.svg"));
-    if (!renderer.isValid())
-        return QPixmap();
-    const int side = qRound(WindowsLogoPixels * devicePixelRatio);
-    QPixmap pixmap(side, side);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    renderer.render(&painter);
-    painter.end();
-    pixmap.setDevicePixelRatio(devicePixelRatio);
-    return pixmap;
 }
 
 } // namespace
@@ -142,7 +127,8 @@ QWidget* DashboardPage::createHeroCard()
 
     auto* logo = new CircleBadge(card);
     logo->setFixedSize(60, 60);
-    const QPixmap logoPixmap = windowsLogo(devicePixelRatioF());
+    const QPixmap logoPixmap
+        = iconPixmap(QStringLiteral(":/icons/icons/windows-logo.svg"), iconsizes::WindowsLogo, devicePixelRatioF());
     if (!logoPixmap.isNull())
         logo->setPixmap(logoPixmap);
     layout->addWidget(logo);
