@@ -5,7 +5,7 @@
 #include "platform/forwardingplatform.h"
 #include "platform/platform.h"
 #include "platform/processes.h"
-#include "platform/sandbox/sandboxplatform.h"
+#include "support/testmachine.h"
 
 #include <QDir>
 #include <QFile>
@@ -109,7 +109,7 @@ private:
     }
 
     QTemporaryDir m_dir;
-    mutable platform::SandboxPlatform m_sandbox;
+    mutable TestMachine m_sandbox;
     mutable std::mutex m_mutex;
     QStringList m_running;
     QStringList m_stubborn;

@@ -136,6 +136,7 @@ private slots:
     }
     void runningBrowserIsEndedOrTheRemovalStops()
     {
+        NORVALE_SANDBOX_ONLY("lays out browser profiles and running browsers of its own");
         QFETCH(QStringList, answers);
         QFETCH(bool, stubborn);
         QFETCH(QStringList, titles);
@@ -183,6 +184,7 @@ private slots:
     }
     void failedRemovalCopiesTheIdAndOpensTheBrowsersPage()
     {
+        NORVALE_SANDBOX_ONLY("lays out browser profiles and running browsers of its own");
         QFETCH(bool, installed);
         QFETCH(QString, program);
         QFETCH(QString, url);
@@ -223,6 +225,7 @@ private slots:
     }
     void batchReportsExactlyTheFailedExtensions()
     {
+        NORVALE_SANDBOX_ONLY("lays out browser profiles and running browsers of its own");
         QFETCH(QStringList, stuck);
         QFETCH(QString, title);
         QFETCH(QString, text);
@@ -261,6 +264,7 @@ private slots:
 
     void searchHidesRowsAndGroupsAndCountsWhatIsShown()
     {
+        NORVALE_SANDBOX_ONLY("lays out browser profiles and running browsers of its own");
         ExtMachine m;
         addChrome(m, QString(32, 'a'), "Ad Shield");
         addChrome(m, QString(32, 'b'), "Notes");

@@ -66,6 +66,7 @@ private slots:
     }
     void patchKeepsEveryOtherByte()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes browser profiles of its own");
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, after);
         ExtMachine m;
@@ -105,6 +106,7 @@ private slots:
     }
     void patchLeavesFilesItCannotUseOrNeedNotChange()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes browser profiles of its own");
         QFETCH(QByteArray, text);
         QFETCH(bool, patched);
         ExtMachine m;
@@ -158,6 +160,7 @@ private slots:
     }
     void hostileFilesAreNeverBroken()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes browser profiles of its own");
         QFETCH(QByteArray, text);
         QFETCH(bool, patched);
         ExtMachine m;
@@ -180,6 +183,7 @@ private slots:
     // Far beyond any real profile file, though well formed: not read, so neither trusted nor rewritten.
     void aFileBeyondTheSizeLimitIsLeftAlone()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes browser profiles of its own");
         ExtMachine m;
         const QString file = m.local("Preferences");
         const QByteArray text = preferences("{}", "[]") + QByteArray(65 * 1024 * 1024, ' ');
@@ -192,6 +196,7 @@ private slots:
     // A pipe in a file's place would block the first read until someone writes to it.
     void aPipeInAFilesPlaceIsNotOpened()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes browser profiles of its own");
         ExtMachine m;
         const QString profile = m.local("Google/Chrome/User Data/Default");
         QVERIFY(QDir().mkpath(profile + "/Extensions/" + Id + "/1_0"));
@@ -205,6 +210,7 @@ private slots:
 
     void removesFromChromeProfiles()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes browser profiles of its own");
         ExtMachine m;
         const QString userData = m.local("Google/Chrome/User Data/");
         QVERIFY(m.write(userData + "Default/Extensions/" + Id + "/1.0_0/manifest.json", "{}"));
@@ -259,6 +265,7 @@ private slots:
     }
     void chromiumOutcomes()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes browser profiles of its own");
         QFETCH(QStringList, files);
         QFETCH(QStringList, undeletable);
         QFETCH(QString, id);
@@ -279,6 +286,7 @@ private slots:
 
     void removesFirefoxEntriesFoldersAndPackages()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes browser profiles of its own");
         ExtMachine m;
         const QString profiles = m.roaming("Mozilla/Firefox/Profiles/");
         const QByteArray other = "{\"id\":\"keep@x\",\"size\":18446744073709551615,\"n\":\"ü\\u00fc\",\"a\":[[1],[]]}";
@@ -317,6 +325,7 @@ private slots:
     }
     void firefoxFailures()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes browser profiles of its own");
         QFETCH(bool, profiles);
         QFETCH(QString, id);
         QFETCH(QString, error);

@@ -64,6 +64,7 @@ private slots:
     }
     void deduplicatesByBrowserAndId()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QStringList, places);
         QFETCH(QStringList, expected);
         ExtMachine m;
@@ -92,6 +93,7 @@ private slots:
     }
     void followsPreferenceSettings()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QByteArray, preferences);
         QFETCH(bool, listed);
         ExtMachine m;
@@ -110,6 +112,7 @@ private slots:
     }
     void usesTheHighestVersionFolder()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QStringList, folders);
         QFETCH(QString, expected);
         ExtMachine m;
@@ -147,6 +150,7 @@ private slots:
     }
     void resolvesNamesAndDescriptions()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QByteArray, manifest);
         QFETCH(QStringList, localeFiles);
         QFETCH(QString, name);
@@ -169,6 +173,7 @@ private slots:
 
     void skipsThemesAndFoldersWithoutManifest()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         ExtMachine m;
         QVERIFY(m.write(extFile(m, ChromeData, "Default", "theme", "1_0", "manifest.json"),
             "{\"name\":\"Dark\",\"theme\":{\"colors\":{}}}"));
@@ -190,6 +195,7 @@ private slots:
     }
     void choosesChromiumIcons()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QByteArray, icons);
         QFETCH(QString, expected);
         ExtMachine m;
@@ -228,6 +234,7 @@ private slots:
     }
     void readsFirefoxAddons()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QByteArray, addon);
         QFETCH(bool, listed);
         QFETCH(bool, enabled);
@@ -269,6 +276,7 @@ private slots:
     }
     void choosesTheLargestFirefoxIcon()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QByteArray, icons);
         QFETCH(QString, expected);
         QFETCH(QString, root);
@@ -285,6 +293,7 @@ private slots:
 
     void survivesFirefoxFilesOfTheWrongShape()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         ExtMachine m;
         const QString profiles = m.roaming("Mozilla/Firefox/Profiles/");
         QVERIFY(m.write(profiles + "a/extensions.json", "{\"addons\":{\"id\":\"x\"}}"));

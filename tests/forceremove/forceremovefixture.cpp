@@ -30,7 +30,7 @@ QList<QStringList> RecordedTools::calls() const
 }
 
 SandboxMachine::SandboxMachine()
-    : m_platform(std::make_unique<platform::SandboxPlatform>(m_dir.path().toStdWString()))
+    : m_platform(std::make_unique<TestMachine>(m_dir.path().toStdWString()))
 {
     platform::setCurrent(m_platform.get());
 }

@@ -3,7 +3,7 @@
 #include <forceremove/toolrunner.h>
 #include <uninstall/installedapp.h>
 
-#include <platform/sandbox/sandboxplatform.h>
+#include <support/testmachine.h>
 
 #include <QHash>
 #include <QList>
@@ -35,7 +35,7 @@ public:
     SandboxMachine();
     ~SandboxMachine();
 
-    platform::SandboxPlatform& platform() { return *m_platform; }
+    TestMachine& platform() { return *m_platform; }
     platform::Registry& registry() { return m_platform->registry(); }
     // Where a Windows path lies in the sandbox.
     QString local(const QString& windowsPath) const;
@@ -47,7 +47,7 @@ public:
 
 private:
     QTemporaryDir m_dir;
-    std::unique_ptr<platform::SandboxPlatform> m_platform;
+    std::unique_ptr<TestMachine> m_platform;
 };
 
 // The program most cases remove.

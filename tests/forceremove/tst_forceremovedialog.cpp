@@ -133,6 +133,7 @@ private slots:
 
     void anEmptyScanOffersNothingToRemove()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         SandboxMachine m;
         auto tools = std::make_shared<RecordedTools>();
         InstalledApp app;
@@ -154,6 +155,7 @@ private slots:
 
     void removesTheCheckedRowsButNeverALockedOne()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         SandboxMachine m;
         m.writeFile(QStringLiteral("C:\\Program Files\\Foo App\\foo.exe"), 2 * MiB);
         m.registry().setString(Hive::CurrentUser, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Foo",
@@ -204,6 +206,7 @@ private slots:
 
     void closingDuringTheScanStopsItWithoutReachingTheDialog()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         SandboxMachine m;
         auto tools = std::make_shared<RecordedTools>();
         tools->blockMs = 300;
@@ -220,6 +223,7 @@ private slots:
 
     void aRefusedInstallLocationIsExplained()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         SandboxMachine m;
         auto tools = std::make_shared<RecordedTools>();
         QPointer<ForceRemoveDialog> dialog = openDialog(fooApp(QStringLiteral("C:\\Program Files")), tools);

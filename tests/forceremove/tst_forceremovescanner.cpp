@@ -233,6 +233,7 @@ class tst_ForceRemoveScanner : public QObject {
 private slots:
     void findsEveryTraceInDiscoveryOrderAndEndsTheProgram()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         Rig r;
         auto& m = r.m;
         installFooApp(m, *r.tools);
@@ -293,6 +294,7 @@ private slots:
 
     void removesWhatIsChosenAndCountsWhatIsFreed()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         Rig r;
         auto& m = r.m;
         auto& scanner = r.scanner;
@@ -353,6 +355,7 @@ private slots:
     // writing is not reported as deleted.
     void removalOutcomesAreLoggedAsTheyCameOut()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         Rig r;
         auto& m = r.m;
         auto& scanner = r.scanner;
@@ -448,6 +451,7 @@ private slots:
     }
     void protectedInstallLocations()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         QFETCH(QString, location);
         QFETCH(bool, refused);
         Rig r;
@@ -481,6 +485,7 @@ private slots:
 
     void theSameFolderIsListedOnceHoweverItIsReached()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         Rig r;
         auto& m = r.m;
         // Two candidates that differ only in case, and the install folder among the app data.
@@ -499,6 +504,7 @@ private slots:
 
     void cancelStopsAtTheNextCheckAndNothingFollows()
     {
+        NORVALE_SANDBOX_ONLY("lays out and removes traces of a program on a machine of its own");
         SandboxMachine m;
         auto tools = std::make_shared<RecordedTools>();
         tools->blockMs = 400; // schtasks is slow to answer

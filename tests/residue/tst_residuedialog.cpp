@@ -3,7 +3,7 @@
 #include <residue/residuescanner.h>
 
 #include <platform/platform.h>
-#include <platform/sandbox/sandboxplatform.h>
+#include <support/testmachine.h>
 
 #include <QCheckBox>
 #include <QDir>
@@ -47,7 +47,7 @@ bool signalled(QSignalSpy& spy, int timeoutMs)
 class tst_ResidueDialog : public QObject {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<platform::SandboxPlatform> m_platform;
+    std::unique_ptr<TestMachine> m_platform;
 
     QString roaming() const { return m_dir->path() + "/sandbox/C/Users/User/AppData/Roaming"; }
 
@@ -64,7 +64,7 @@ private slots:
         platform::setCurrent(nullptr);
         m_dir = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir().mkpath(m_dir->path() + "/sandbox/C"));
-        m_platform = std::make_unique<platform::SandboxPlatform>((m_dir->path() + "/sandbox").toStdWString());
+        m_platform = std::make_unique<TestMachine>((m_dir->path() + "/sandbox").toStdWString());
         platform::setCurrent(m_platform.get());
     }
     void cleanupTestCase() { platform::setCurrent(nullptr); }
@@ -114,6 +114,7 @@ private slots:
 
     void cleanFlow()
     {
+        NORVALE_SANDBOX_ONLY("cleans leftovers it laid out");
         blob(roaming() + "/Spotify/a", 6 * MiB);
         blob(roaming() + "/Slack/a", 1 * MiB);
         ResidueDialog dialog(QList<InstalledApp> {}, nullptr);
@@ -147,6 +148,7 @@ private slots:
 
     void installFolderNeedsConfirmation()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only leftover the scan may find");
         blob(m_dir->path() + "/sandbox/C/Program Files/Paint/a.dll", 2 * MiB);
         UninstalledApp app;
         app.name = "Paint";

@@ -2,7 +2,7 @@
 
 #include <platform/environment.h>
 #include <platform/platform.h>
-#include <platform/sandbox/sandboxplatform.h>
+#include <support/testmachine.h>
 
 #include <QDir>
 #include <QFile>
@@ -46,7 +46,7 @@ bool signalled(QSignalSpy& spy, int timeoutMs)
 class tst_ResidueScanner : public QObject {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<platform::SandboxPlatform> m_platform;
+    std::unique_ptr<TestMachine> m_platform;
 
     QString drive() const { return m_dir->path() + QStringLiteral("/sandbox/C"); }
     QString roaming() const { return drive() + QStringLiteral("/Users/User/AppData/Roaming"); }
@@ -78,7 +78,7 @@ private slots:
         platform::setCurrent(nullptr);
         m_dir = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir().mkpath(drive()));
-        m_platform = std::make_unique<platform::SandboxPlatform>((m_dir->path() + "/sandbox").toStdWString());
+        m_platform = std::make_unique<TestMachine>((m_dir->path() + "/sandbox").toStdWString());
         platform::setCurrent(m_platform.get());
     }
     void cleanupTestCase() { platform::setCurrent(nullptr); }
@@ -140,6 +140,7 @@ private slots:
     }
     void thresholds()
     {
+        NORVALE_SANDBOX_ONLY("lays out folders of known sizes in every place the scan reads");
         QFETCH(QString, where);
         QFETCH(qint64, bytes);
         QFETCH(int, category);
@@ -162,6 +163,7 @@ private slots:
 
     void globalScanOrderAndProgress()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only leftovers the scan may find");
         blob(roaming() + "/Small/a", 1 * MiB);
         blob(local() + "/Large/a", 8 * MiB);
         blob(programData() + "/Middle/a", 3 * MiB);
@@ -212,6 +214,7 @@ private slots:
 
     void scanForAppsFindsLeftoversButNeverARoot()
     {
+        NORVALE_SANDBOX_ONLY("lays out the only leftovers the scan may find");
         blob(roaming() + "/Figma Desktop/Cache/f1", 2 * MiB);
         blob(local() + "/FigmaDesktop/app.log", 1 * KiB);
         QVERIFY(QDir().mkpath(programData() + "/Figma Desktop")); // empty: not a residue
@@ -264,6 +267,7 @@ private slots:
     }
     void allowedTargets()
     {
+        NORVALE_SANDBOX_ONLY("checks paths of its own machine layout");
         QFETCH(QString, relative);
         QFETCH(int, category);
         ResidueScanner scanner;
@@ -281,6 +285,7 @@ private slots:
     }
     void linksInsideResidue()
     {
+        NORVALE_SANDBOX_ONLY("lays out links inside residue and cleans it");
         QFETCH(QString, folder);
         QFETCH(bool, folderStays);
         const QString path = drive() + "/" + folder;
@@ -313,6 +318,7 @@ private slots:
     // Regression: an emptied folder larger than the scan's file budget reports all it gave back.
     void cleaningCountsEveryFileOfALargeCache()
     {
+        NORVALE_SANDBOX_ONLY("cleans a cache it laid out");
         const QString cache = roaming() + "/Inkscape/cache";
         for (int i = 0; i < 3000; ++i) {
             blob(cache + QString("/f%1").arg(i), 1 * KiB);
@@ -333,6 +339,7 @@ private slots:
 
     void stopEndsTheScanWithoutResults()
     {
+        NORVALE_SANDBOX_ONLY("needs a scan made long by its own folders");
         for (int i = 0; i < 200; ++i)
             blob(roaming() + QString("/Orphan%1/a").arg(i), 1 * MiB);
         ResidueScanner scanner;

@@ -3,8 +3,8 @@
 #include "platform/environment.h"
 #include "platform/forwardingplatform.h"
 #include "platform/platform.h"
-#include "platform/sandbox/sandboxplatform.h"
 #include "platform/systemcounters.h"
+#include "support/testmachine.h"
 
 #include <QTemporaryDir>
 
@@ -38,6 +38,6 @@ public:
 
 private:
     QTemporaryDir m_dir;
-    platform::SandboxPlatform m_sandbox { m_dir.path().toStdWString() };
+    TestMachine m_sandbox { m_dir.path().toStdWString() };
     const std::wstring m_systemDrive = m_sandbox.environment().systemDriveRoot();
 };

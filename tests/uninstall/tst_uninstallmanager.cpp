@@ -2,8 +2,8 @@
 
 #include <platform/forwardingplatform.h>
 #include <platform/launcher.h>
-#include <platform/sandbox/sandboxplatform.h>
 #include <platform/uninstallentries.h>
+#include <support/testmachine.h>
 
 #include "../platform/win/uninstall_sample.h"
 
@@ -79,7 +79,7 @@ private:
 class tst_UninstallManager : public QObject {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<platform::SandboxPlatform> m_platform;
+    std::unique_ptr<TestMachine> m_platform;
     std::unique_ptr<RecordingPlatform> m_recording;
     platform::Registry& reg() { return m_platform->registry(); }
 
@@ -90,7 +90,7 @@ private slots:
         m_recording.reset();
         m_platform.reset();
         m_dir = std::make_unique<QTemporaryDir>();
-        m_platform = std::make_unique<platform::SandboxPlatform>(m_dir->path().toStdWString());
+        m_platform = std::make_unique<TestMachine>(m_dir->path().toStdWString());
         m_recording = std::make_unique<RecordingPlatform>(*m_platform);
         platform::setCurrent(m_recording.get());
         const QString history = UninstallManager::historyFilePath();
@@ -121,6 +121,7 @@ private slots:
     }
     void skipRules()
     {
+        NORVALE_SANDBOX_ONLY("reads registry entries and files of its own machine");
         QFETCH(QString, valueName);
         QFETCH(QVariant, value);
         const std::wstring path = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Entry";
@@ -152,6 +153,7 @@ private slots:
     }
     void status()
     {
+        NORVALE_SANDBOX_ONLY("reads registry entries and files of its own machine");
         QFETCH(QString, name);
         QFETCH(int, daysInstalled);
         QFETCH(int, daysUnused);
@@ -187,6 +189,7 @@ private slots:
 
     void userAssistBounds()
     {
+        NORVALE_SANDBOX_ONLY("reads registry entries and files of its own machine");
         const QDate early(2024, 3, 1);
         const QDate late(2024, 9, 15);
         auto put = [&](int key, const QString& path, std::size_t bytes, const QDate& day) {
@@ -311,6 +314,7 @@ private slots:
     }
     void uninstall()
     {
+        NORVALE_SANDBOX_ONLY("reads registry entries and files of its own machine");
         QFETCH(QString, command);
         QFETCH(QString, script);
         QFETCH(QString, location);
@@ -338,6 +342,7 @@ private slots:
     // same preparation against the real msiexec.
     void msiEntryFromTheInventoryIsRemoved()
     {
+        NORVALE_SANDBOX_ONLY("reads registry entries and files of its own machine");
         const std::wstring key = sample_msi::KeyPath;
         reg().setString(Hive::LocalMachine, key, L"DisplayName", sample_msi::DisplayName);
         reg().setString(Hive::LocalMachine, key, L"Publisher", sample_msi::Publisher);
@@ -374,6 +379,7 @@ private slots:
     // never listed for its executables.
     void networkInstallLocationIsNotListed()
     {
+        NORVALE_SANDBOX_ONLY("reads registry entries and files of its own machine");
         // On this system "//tmp/x" is "/tmp/x", so an old lookup would find the executable.
         const QString folder = m_dir->filePath("App");
         QVERIFY(QDir().mkpath(folder));

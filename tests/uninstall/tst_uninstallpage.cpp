@@ -4,7 +4,7 @@
 
 #include <platform/platform.h>
 #include <platform/registry.h>
-#include <platform/sandbox/sandboxplatform.h>
+#include <support/testmachine.h>
 
 #include <QApplication>
 #include <QComboBox>
@@ -97,7 +97,7 @@ ModalScript::Step press(const QString& buttonText)
 class tst_UninstallPage : public QObject {
     Q_OBJECT
     std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<platform::SandboxPlatform> m_platform;
+    std::unique_ptr<TestMachine> m_platform;
 
     static void showPage(UninstallPage& page, const QList<InstalledApp>& apps)
     {
@@ -116,7 +116,7 @@ private slots:
     {
         platform::setCurrent(nullptr);
         m_dir = std::make_unique<QTemporaryDir>();
-        m_platform = std::make_unique<platform::SandboxPlatform>(m_dir->path().toStdWString());
+        m_platform = std::make_unique<TestMachine>(m_dir->path().toStdWString());
         platform::setCurrent(m_platform.get());
     }
     void cleanupTestCase() { platform::setCurrent(nullptr); }

@@ -3,7 +3,7 @@
 #include "platform/forwardingplatform.h"
 #include "platform/packagecatalogue.h"
 #include "platform/platform.h"
-#include "platform/sandbox/sandboxplatform.h"
+#include "support/testmachine.h"
 
 #include <QTemporaryDir>
 
@@ -47,5 +47,5 @@ public:
 
 private:
     QTemporaryDir m_dir;
-    platform::SandboxPlatform m_sandbox { m_dir.path().toStdWString() };
+    TestMachine m_sandbox { m_dir.path().toStdWString() };
 };
