@@ -94,7 +94,8 @@ int main(int argc, char* argv[])
     }
     const double ns = median(norvaleShown), nf = median(norvaleFrame);
     const double ms = median(minimalShown), mf = median(minimalFrame);
-    std::printf("process start to the main window, median of %d runs (offscreen)\n", runs);
+    const char* where = std::getenv("NORVALE_BENCH_WHERE");
+    std::printf("process start to the main window, median of %d runs (%s)\n", runs, where ? where : "offscreen");
     std::printf("                        show event   first frame\n");
     std::printf("  Norvale main window : %8.1f ms   %8.1f ms\n", ns, nf);
     std::printf("  minimal Qt program  : %8.1f ms   %8.1f ms\n", ms, mf);
