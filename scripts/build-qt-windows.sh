@@ -134,8 +134,8 @@ if [ ! -f "$build/build.ninja" ] || [ "$(cat "$work/configured" 2>/dev/null)" !=
     [ -f "$build/build.ninja" ] || rm -rf "$build"
     # Debian's repacked sources drop wintab, hence no tablet events. OpenGL stays on: without it
     # the Windows platform plugin of this version does not compile; it resolves OpenGL at run time.
-    # What Norvale does not use stays out: JPEG, FreeType (Windows draws text itself) and the
-    # Direct2D platform plugin.
+    # What Norvale does not use stays out: JPEG and the Direct2D platform plugin. FreeType stays:
+    # in this version the Windows plugin's DirectWrite font database is only built with it.
     cmake -S "$src" -B "$build" -G Ninja "${launcher[@]}" \
         -DCMAKE_TOOLCHAIN_FILE="$work/toolchain.cmake" \
         -DCMAKE_BUILD_TYPE=Release \
@@ -158,7 +158,6 @@ if [ ! -f "$build/build.ninja" ] || [ "$(cat "$work/configured" 2>/dev/null)" !=
         -DFEATURE_xml=OFF \
         -DFEATURE_tabletevent=OFF \
         -DFEATURE_jpeg=OFF \
-        -DFEATURE_freetype=OFF \
         -DFEATURE_direct2d=OFF \
         >"$work/configure.log" 2>&1 || { tail -40 "$work/configure.log" >&2; rm -f "$build/build.ninja"; die "configure failed (log: $work/configure.log)"; }
     echo "$key" >"$work/configured"
