@@ -134,8 +134,10 @@ if [ ! -f "$build/build.ninja" ] || [ "$(cat "$work/configured" 2>/dev/null)" !=
     [ -f "$build/build.ninja" ] || rm -rf "$build"
     # Debian's repacked sources drop wintab, hence no tablet events. OpenGL stays on: without it
     # the Windows platform plugin of this version does not compile; it resolves OpenGL at run time.
-    # What Norvale does not use stays out: JPEG and the Direct2D platform plugin. FreeType stays:
-    # in this version the Windows plugin's DirectWrite font database is only built with it.
+    # What Norvale does not use stays out: JPEG and the Direct2D platform plugin. The DirectWrite 3
+    # font database is off too: in this version the Windows plugin refers to it whenever the
+    # feature is on, but Qt Gui does not build it for mingw, so nothing would link; the plugin
+    # then uses its GDI font database, as on older Windows.
     cmake -S "$src" -B "$build" -G Ninja "${launcher[@]}" \
         -DCMAKE_TOOLCHAIN_FILE="$work/toolchain.cmake" \
         -DCMAKE_BUILD_TYPE=Release \
@@ -159,6 +161,7 @@ if [ ! -f "$build/build.ninja" ] || [ "$(cat "$work/configured" 2>/dev/null)" !=
         -DFEATURE_tabletevent=OFF \
         -DFEATURE_jpeg=OFF \
         -DFEATURE_direct2d=OFF \
+        -DFEATURE_directwrite3=OFF \
         >"$work/configure.log" 2>&1 || { tail -40 "$work/configure.log" >&2; rm -f "$build/build.ninja"; die "configure failed (log: $work/configure.log)"; }
     echo "$key" >"$work/configured"
 fi
