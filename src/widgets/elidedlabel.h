@@ -3,7 +3,8 @@
 #include <QLabel>
 
 // A one-line plain-text label that ends in "…" when its column is too narrow for the text, instead
-// of cutting a letter in half at the edge. Style sheets, alignment and tool tips work as on QLabel;
+// of cutting a letter in half at the edge. The text is read in its own direction (a size stays
+// "8 MB" in a right-to-left interface). Style sheets, alignment and tool tips work as on QLabel;
 // text() stays whole.
 class ElidedLabel final : public QLabel {
     Q_OBJECT
