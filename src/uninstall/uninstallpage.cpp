@@ -230,6 +230,8 @@ QWidget* UninstallPage::createColumnHeads()
     layout->setSpacing(Row::ColumnGap);
     const auto head = [heads](const QString& text, int width) {
         auto* l = new QLabel(text, heads);
+        // A head longer than its column takes a second line rather than losing its end.
+        l->setWordWrap(true);
         if (width > 0)
             l->setFixedWidth(width);
         return l;
