@@ -157,7 +157,8 @@ private:
 class ResidueFeature final : public Feature {
 public:
     ResidueFeature(const Machine& m, bool orphan)
-        : m_target(orphan ? m.roaming() + QStringLiteral("/Orphan Tool") : m.local() + QStringLiteral("/Prog Tool/Cache"))
+        : m_target(
+            orphan ? m.roaming() + QStringLiteral("/Orphan Tool") : m.local() + QStringLiteral("/Prog Tool/Cache"))
         , m_bytes(orphan ? 600 * 1024 : 1200 * 1024)
     {
     }
@@ -291,9 +292,9 @@ std::unique_ptr<Feature> makeFeature(int which, const Machine& m)
     }
 }
 
-const char* const FeatureNames[] = { "junk cleaning", "residue: orphaned folder", "residue: cache emptied",
-    "force remove: folder", "force remove: file", "extension: Chromium folder", "extension: Firefox folder",
-    "extension: Firefox .xpi" };
+const char* const FeatureNames[]
+    = { "junk cleaning", "residue: orphaned folder", "residue: cache emptied", "force remove: folder",
+          "force remove: file", "extension: Chromium folder", "extension: Firefox folder", "extension: Firefox .xpi" };
 constexpr int FeatureCount = int(std::size(FeatureNames));
 
 // The links an attacker leaves before the scan. For a file target the link takes the file's place.
@@ -324,8 +325,8 @@ bool plantLinks(Attack attack, const Machine& m, const Feature& f)
             && link(m.base(), t + QStringLiteral("/all"));
     case Attack::LinkLoop:
         return link(t + QStringLiteral("/loop"), t + QStringLiteral("/loop/self"))
-            && link(t + QStringLiteral("/b"), t + QStringLiteral("/a")) && link(t + QStringLiteral("/a"), t + QStringLiteral("/b"))
-            && link(t, t + QStringLiteral("/loop/target"));
+            && link(t + QStringLiteral("/b"), t + QStringLiteral("/a"))
+            && link(t + QStringLiteral("/a"), t + QStringLiteral("/b")) && link(t, t + QStringLiteral("/loop/target"));
     default: // a real sub-folder now, swapped later
         return write(t + QStringLiteral("/sub/cache.bin"), QByteArray(512, 'c'));
     }
@@ -341,7 +342,8 @@ bool swapForLink(Attack attack, const Machine& m, const Feature& f)
     case Attack::EntrySwapped:
         if (f.isFile())
             return removeAll(t) && link(m.victim(QStringLiteral("docs")), t);
-        return removeAll(t + QStringLiteral("/sub")) && link(m.victim(QStringLiteral("docs")), t + QStringLiteral("/sub"))
+        return removeAll(t + QStringLiteral("/sub"))
+            && link(m.victim(QStringLiteral("docs")), t + QStringLiteral("/sub"))
             && link(m.victim(QStringLiteral("file.txt")), t + QStringLiteral("/junk2.bin"));
     case Attack::TargetSwapped:
         if (f.isFile())

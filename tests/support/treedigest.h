@@ -30,8 +30,8 @@ inline std::string fileFingerprint(const std::filesystem::path& path)
 
 // Adds what lies below `folder` (not the folder itself), skipping the entries named in `skipped`
 // with all they hold.
-inline void addTree(Digest& digest, const std::filesystem::path& folder, const std::vector<std::filesystem::path>& skipped,
-    const std::filesystem::path& base)
+inline void addTree(Digest& digest, const std::filesystem::path& folder,
+    const std::vector<std::filesystem::path>& skipped, const std::filesystem::path& base)
 {
     namespace fs = std::filesystem;
     std::error_code error;
