@@ -57,7 +57,9 @@ bool writeChecked(const QString& path, const QByteArray& text)
     if (!JsonText(text).isObjectDocument())
         return false;
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    // Unbuffered: a write that fails for space must fail here, and not in the flush inside
+    // commit(), which would then put an empty file in place of the browser's.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return false;
     if (file.write(text) != text.size())
         return false;
