@@ -6,6 +6,7 @@
 #include "../support/treedigest.h"
 
 #include "browserext/browserextremover.h"
+#include "forceremove/toolrunner.h"
 #include "platform/environment.h"
 #include "platform/sandbox/sandboxplatform.h"
 #include "uninstall/uninstallmanager.h"
@@ -24,7 +25,7 @@
 namespace {
 
 enum Medium { Full, ReadOnly };
-enum Rewrite { History, ChromiumPreferences, FirefoxDatabase };
+enum Rewrite { History, ChromiumPreferences, FirefoxDatabase, TaskList };
 
 const QString ChromiumId = QStringLiteral("abcdefghijklmnopabcdefghijklmnop");
 const QString FirefoxId = QStringLiteral("helper@example.org");
@@ -39,6 +40,14 @@ bool write(const QString& path, const QByteArray& bytes)
 QString fromPlatform(const std::wstring& path)
 {
     return QDir::fromNativeSeparators(QString::fromStdWString(path));
+}
+
+BrowserExt extension(const QString& browser, const QString& id)
+{
+    BrowserExt ext;
+    ext.browser = browser;
+    ext.id = id;
+    return ext;
 }
 
 std::string refusedNamespace;
@@ -62,9 +71,10 @@ private slots:
         QTest::addColumn<int>("medium");
         QTest::addColumn<int>("rewrite");
         const char* const media[] = { "full disk", "read-only media" };
-        const char* const files[] = { "uninstall history", "Chromium Preferences", "Firefox extensions.json" };
+        const char* const files[]
+            = { "uninstall history", "Chromium Preferences", "Firefox extensions.json", "sandbox task list" };
         for (int m : { Full, ReadOnly }) {
-            for (int r : { History, ChromiumPreferences, FirefoxDatabase })
+            for (int r : { History, ChromiumPreferences, FirefoxDatabase, TaskList })
                 QTest::addRow("%s, %s", files[r], media[m]) << m << r;
         }
     }
@@ -87,6 +97,7 @@ private slots:
         // Each old file names what the rewrite would take out of it, so a rewrite is due.
         const QString chromium = local + QStringLiteral("/Google/Chrome/User Data/Default");
         const QString firefox = roaming + QStringLiteral("/Mozilla/Firefox/Profiles/abc.default");
+        const QString tasks = media + QStringLiteral("/machine/") + SandboxToolRunner::tasksFileName();
         const QByteArray preferences = "{\"extensions\":{\"settings\":{\"" + ChromiumId.toUtf8()
             + "\":{\"state\":1}},\"pinned_extensions\":[\"" + ChromiumId.toUtf8() + "\"]}}";
         std::unique_ptr<UninstallManager> manager;
@@ -102,6 +113,9 @@ private slots:
             QVERIFY(QDir().mkpath(chromium + QStringLiteral("/Extensions")));
             QVERIFY(write(chromium + QStringLiteral("/Preferences"), preferences));
             QVERIFY(write(chromium + QStringLiteral("/Secure Preferences"), preferences));
+            break;
+        case TaskList:
+            QVERIFY(write(tasks, "\"\\Foo Updater\",\"N/A\",\"Ready\"\n\"\\Other\",\"N/A\",\"Ready\"\n"));
             break;
         case FirefoxDatabase:
             QVERIFY(write(firefox + QStringLiteral("/extensions.json"),
@@ -128,15 +142,25 @@ private slots:
         }
         case ChromiumPreferences: {
             const BrowserExtRemover::Result result
-                = BrowserExtRemover::remove({ QStringLiteral("Google Chrome"), ChromiumId });
+                = BrowserExtRemover::remove(extension(QStringLiteral("Google Chrome"), ChromiumId));
             QVERIFY(!result.success);
             QCOMPARE(result.error,
                 QStringLiteral("Cannot patch %1/Preferences\nCannot patch %1/Secure Preferences").arg(chromium));
             break;
         }
+        case TaskList: {
+            // The sandbox's schtasks reports a failed delete as the real one does: exit code 1.
+            const ToolResult result = SandboxToolRunner(media + QStringLiteral("/machine"))
+                                          .run(QStringLiteral("schtasks"),
+                                              { QStringLiteral("/delete"), QStringLiteral("/tn"),
+                                                  QStringLiteral("\\Foo Updater"), QStringLiteral("/f") },
+                                              1000);
+            QCOMPARE(result.exitCode, 1);
+            break;
+        }
         case FirefoxDatabase: {
             const BrowserExtRemover::Result result
-                = BrowserExtRemover::remove({ QStringLiteral("Mozilla Firefox"), FirefoxId });
+                = BrowserExtRemover::remove(extension(QStringLiteral("Mozilla Firefox"), FirefoxId));
             QVERIFY(!result.success);
             QCOMPARE(result.error, QStringLiteral("Cannot write %1/extensions.json").arg(firefox));
             break;
