@@ -2,6 +2,7 @@
 // links out of the target, links back up, loops, and entries swapped for links between the scan
 // and the clean. Whatever lies outside the target must come through byte for byte.
 
+#include "../support/scratchmount.h"
 #include "../support/treedigest.h"
 
 #include "browserext/browserextremover.h"
@@ -11,6 +12,7 @@
 #include "platform/sandbox/sandboxplatform.h"
 #include "residue/residuescanner.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -31,13 +33,14 @@ enum class Attack {
     FileLinkOut,
     LinkUp,
     LinkLoop,
+    MountedOutside,
     EntrySwapped,
     TargetSwapped,
     ParentSwapped,
 };
 
 const char* const AttackNames[] = { "link to outside folder", "link to outside file", "link to parent/home",
-    "link loop", "race: entry swapped", "race: target swapped", "race: parent swapped" };
+    "link loop", "mount of outside", "race: entry swapped", "race: target swapped", "race: parent swapped" };
 
 bool isRace(Attack attack)
 {
@@ -360,7 +363,19 @@ bool swapForLink(Attack attack, const Machine& m, const Feature& f)
     }
 }
 
+// The Unix stand-in for a junction or a mounted volume: the outside folder (or file) mounted again
+// inside the target, where no link shows it for what it is.
+std::unique_ptr<scratchmount::Bind> mountOutside(const Machine& m, const Feature& f)
+{
+    const QString at = f.isFile() ? f.target() : f.target() + QStringLiteral("/sub/mounted");
+    if (!f.isFile())
+        QDir().mkpath(at);
+    return std::make_unique<scratchmount::Bind>(
+        m.victim(f.isFile() ? QStringLiteral("file.txt") : QStringLiteral("docs")).toStdString(), at.toStdString());
+}
+
 QMap<QString, QMap<QString, qsizetype>> matrix;
+std::string refusedNamespace;
 
 } // namespace
 
@@ -385,10 +400,16 @@ private slots:
         const Machine m;
         const std::unique_ptr<Feature> f = makeFeature(feature, m);
         f->plant();
-        if (!isRace(attack))
+        std::unique_ptr<scratchmount::Bind> mounted; // unmounted before the machine goes
+        if (attack == Attack::MountedOutside) {
+            if (!refusedNamespace.empty())
+                QSKIP(qPrintable(
+                    QStringLiteral("no private mount namespace: ") + QString::fromStdString(refusedNamespace)));
+            mounted = mountOutside(m, *f);
+            QVERIFY2(mounted->error().empty(), mounted->error().c_str());
+        } else if (!isRace(attack) || !f->isFile()) {
             QVERIFY(plantLinks(attack, m, *f));
-        else if (!f->isFile())
-            QVERIFY(plantLinks(attack, m, *f));
+        }
         QVERIFY(f->scan());
         QVERIFY(swapForLink(attack, m, *f));
 
@@ -430,5 +451,12 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestLinkAttacks)
+int main(int argc, char** argv)
+{
+    // Before Qt starts any thread: a process with several cannot change its mount namespace.
+    refusedNamespace = scratchmount::enterPrivateNamespace();
+    QCoreApplication app(argc, argv);
+    TestLinkAttacks test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_linkattacks.moc"

@@ -87,4 +87,17 @@ bool Tmpfs::makeReadOnly()
         && ::mount(nullptr, m_folder.c_str(), nullptr, MS_REMOUNT | MS_RDONLY | MS_NOSUID | MS_NODEV, nullptr) == 0;
 }
 
+Bind::Bind(const std::string& from, const std::string& to)
+    : m_to(to)
+{
+    if (::mount(from.c_str(), to.c_str(), nullptr, MS_BIND, nullptr) != 0)
+        m_error = why("mount --bind");
+}
+
+Bind::~Bind()
+{
+    if (m_error.empty())
+        ::umount2(m_to.c_str(), MNT_DETACH);
+}
+
 } // namespace scratchmount

@@ -35,4 +35,20 @@ private:
     bool m_mounted = false;
 };
 
+// `from` mounted again at `to` (a folder on a folder, a file on a file) for as long as the object
+// lives: the Unix stand-in for a junction or a mounted folder in a tree being cleaned.
+class Bind {
+public:
+    Bind(const std::string& from, const std::string& to);
+    ~Bind();
+    Bind(const Bind&) = delete;
+    Bind& operator=(const Bind&) = delete;
+
+    const std::string& error() const { return m_error; }
+
+private:
+    std::string m_to;
+    std::string m_error;
+};
+
 } // namespace scratchmount
