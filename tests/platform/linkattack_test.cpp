@@ -26,11 +26,7 @@ namespace {
 
 class LinkAttackContract : public ::testing::Test {
 protected:
-    void TearDown() override
-    {
-        std::error_code ignored;
-        fs::remove_all(m_base, ignored);
-    }
+    void TearDown() override { contract::removeTree(m_base); }
 
     void write(const fs::path& path, const std::string& text) const
     {
@@ -54,6 +50,9 @@ struct Call {
 
 struct Attack {
     const char* name;
+    // Only links that resolve to a folder: Wine shows those as reparse points, and has no Windows
+    // form for the others (its lane cannot even make them), so they run natively only.
+    bool toFolders;
     // Plants the links for a target; false when the lane could not make them.
     std::function<bool(const fs::path& target, const fs::path& base)> plant;
 };
@@ -67,26 +66,28 @@ TEST_F(LinkAttackContract, NothingOutsideTheTargetIsLost)
         { "removeFile", true, [](platform::FileSystem& f, const std::wstring& p) { f.removeFile(p); } },
     };
     const Attack folderAttacks[] = {
-        { "link to outside folder",
+        { "link to outside folder", true,
             [](const fs::path& t, const fs::path& b) { return makeLink(b / "victim/docs", t / "sub/docs"); } },
-        { "link to outside file",
+        { "link to outside file", false,
             [](const fs::path& t, const fs::path& b) { return makeLink(b / "victim/file.txt", t / "notes.txt"); } },
-        { "link to parent", [](const fs::path& t, const fs::path&) { return makeLink(t.parent_path(), t / "up"); } },
-        { "link loop",
+        { "link to parent", true,
+            [](const fs::path& t, const fs::path&) { return makeLink(t.parent_path(), t / "up"); } },
+        { "link loop", true,
             [](const fs::path& t, const fs::path&) {
                 return makeLink(t / "loop", t / "loop/self") && makeLink(t, t / "loop/top");
             } },
-        { "dangling link",
+        { "dangling link", false,
             [](const fs::path& t, const fs::path& b) { return makeLink(b / "victim/missing", t / "gone"); } },
     };
     const Attack fileAttacks[] = {
-        { "link to outside folder",
+        { "link to outside folder", true,
             [](const fs::path& t, const fs::path& b) { return makeLink(b / "victim/docs", t); } },
-        { "link to outside file",
+        { "link to outside file", false,
             [](const fs::path& t, const fs::path& b) { return makeLink(b / "victim/file.txt", t); } },
-        { "link to parent", [](const fs::path& t, const fs::path&) { return makeLink(t.parent_path(), t); } },
-        { "link loop", [](const fs::path& t, const fs::path&) { return makeLink(t, t); } },
-        { "dangling link", [](const fs::path& t, const fs::path& b) { return makeLink(b / "victim/missing", t); } },
+        { "link to parent", true, [](const fs::path& t, const fs::path&) { return makeLink(t.parent_path(), t); } },
+        { "link loop", false, [](const fs::path& t, const fs::path&) { return makeLink(t, t); } },
+        { "dangling link", false,
+            [](const fs::path& t, const fs::path& b) { return makeLink(b / "victim/missing", t); } },
     };
 
     std::string matrix = "\n";
@@ -94,8 +95,13 @@ TEST_F(LinkAttackContract, NothingOutsideTheTargetIsLost)
         matrix += call.name + std::string(14 - std::string(call.name).size(), ' ');
         for (const Attack& attack : call.onFile ? fileAttacks : folderAttacks) {
             SCOPED_TRACE(std::string(call.name) + " x " + attack.name);
-            std::error_code ignored;
-            fs::remove_all(m_base, ignored);
+#ifdef _WIN32
+            if (!attack.toFolders) {
+                matrix += " | " + std::string(attack.name) + ": -";
+                continue;
+            }
+#endif
+            contract::removeTree(m_base);
             write(m_base / "victim/docs/thesis.doc", std::string(3000, 't'));
             write(m_base / "victim/file.txt", "the only copy");
             write(m_base / "sandbox/beside/keep.txt", "a sibling");
