@@ -1,6 +1,7 @@
 // Every feature that deletes, driven through its own scan and clean, against trees that hold
-// links out of the target, links back up, loops, and entries swapped for links between the scan
-// and the clean. Whatever lies outside the target must come through byte for byte.
+// links out of the target, links back up, loops, outside folders mounted inside, and entries
+// swapped for links between the scan and the clean. Whatever lies outside the target must come
+// through byte for byte.
 
 #include "../support/scratchmount.h"
 #include "../support/treedigest.h"
@@ -115,8 +116,13 @@ public:
     virtual ~Feature() = default;
     virtual QString target() const = 0;
     virtual bool isFile() const { return false; }
+    // The junk a scan must find; residue ignores folders smaller than its thresholds.
+    virtual int junkBytes() const { return 4096; }
     // Lays out the target with some real junk in it, so a clean that did nothing is caught.
-    virtual void plant() = 0;
+    bool plant() const
+    {
+        return write(isFile() ? target() : target() + QStringLiteral("/junk.bin"), QByteArray(junkBytes(), 'j'));
+    }
     virtual bool scan() { return true; }
     virtual bool clean() = 0;
 };
@@ -133,7 +139,6 @@ public:
     {
     }
     QString target() const override { return m_target; }
-    void plant() override { write(m_target + QStringLiteral("/junk.bin"), QByteArray(4096, 'j')); }
     bool scan() override
     {
         m_scanner = std::make_unique<CleanupScanner>();
@@ -166,7 +171,7 @@ public:
     {
     }
     QString target() const override { return m_target; }
-    void plant() override { write(m_target + QStringLiteral("/junk.bin"), QByteArray(m_bytes, 'j')); }
+    int junkBytes() const override { return m_bytes; }
     bool scan() override
     {
         m_scanner = std::make_unique<ResidueScanner>();
@@ -206,10 +211,6 @@ public:
     }
     QString target() const override { return m_target; }
     bool isFile() const override { return m_kind == ForceRemoveKind::StartupShortcut; }
-    void plant() override
-    {
-        write(isFile() ? m_target : m_target + QStringLiteral("/junk.bin"), QByteArray(2048, 'j'));
-    }
     bool scan() override
     {
         m_scanner = std::make_unique<ForceRemoveScanner>();
@@ -261,10 +262,6 @@ public:
     }
     QString target() const override { return m_target; }
     bool isFile() const override { return m_kind == FirefoxPackage; }
-    void plant() override
-    {
-        write(isFile() ? m_target : m_target + QStringLiteral("/junk.bin"), QByteArray(1024, 'j'));
-    }
     bool clean() override { return BrowserExtRemover::remove(m_ext).error != QLatin1String("Invalid extension ID"); }
 
 private:
@@ -399,7 +396,7 @@ private slots:
         const Attack attack = Attack(which);
         const Machine m;
         const std::unique_ptr<Feature> f = makeFeature(feature, m);
-        f->plant();
+        QVERIFY(f->plant());
         std::unique_ptr<scratchmount::Bind> mounted; // unmounted before the machine goes
         if (attack == Attack::MountedOutside) {
             if (!refusedNamespace.empty())
