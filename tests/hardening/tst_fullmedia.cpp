@@ -7,6 +7,7 @@
 
 #include "browserext/browserextremover.h"
 #include "forceremove/toolrunner.h"
+#include "links/linkmanager.h"
 #include "platform/environment.h"
 #include "platform/sandbox/sandboxplatform.h"
 #include "uninstall/uninstallmanager.h"
@@ -25,7 +26,7 @@
 namespace {
 
 enum Medium { Full, ReadOnly };
-enum Rewrite { History, ChromiumPreferences, FirefoxDatabase, TaskList };
+enum Rewrite { History, ChromiumPreferences, FirefoxDatabase, TaskList, Settings };
 
 const QString ChromiumId = QStringLiteral("abcdefghijklmnopabcdefghijklmnop");
 const QString FirefoxId = QStringLiteral("helper@example.org");
@@ -64,6 +65,8 @@ private slots:
                 + QString::fromStdString(refusedNamespace)));
         QVERIFY(m_dir.isValid());
         QVERIFY(QDir(m_dir.path()).mkpath(QStringLiteral("media")));
+        // The settings store lives on the small file system too; Qt reads this once.
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_dir.filePath(QStringLiteral("media/config"))));
     }
 
     void theOldFileSurvivesAndTheFailureIsReported_data()
@@ -71,10 +74,10 @@ private slots:
         QTest::addColumn<int>("medium");
         QTest::addColumn<int>("rewrite");
         const char* const media[] = { "full disk", "read-only media" };
-        const char* const files[]
-            = { "uninstall history", "Chromium Preferences", "Firefox extensions.json", "sandbox task list" };
+        const char* const files[] = { "uninstall history", "Chromium Preferences", "Firefox extensions.json",
+            "sandbox task list", "settings" };
         for (int m : { Full, ReadOnly }) {
-            for (int r : { History, ChromiumPreferences, FirefoxDatabase, TaskList })
+            for (int r : { History, ChromiumPreferences, FirefoxDatabase, TaskList, Settings })
                 QTest::addRow("%s, %s", files[r], media[m]) << m << r;
         }
     }
@@ -101,6 +104,7 @@ private slots:
         const QByteArray preferences = "{\"extensions\":{\"settings\":{\"" + ChromiumId.toUtf8()
             + "\":{\"state\":1}},\"pinned_extensions\":[\"" + ChromiumId.toUtf8() + "\"]}}";
         std::unique_ptr<UninstallManager> manager;
+        std::unique_ptr<LinkManager> links;
         switch (rewrite) {
         case History:
             QVERIFY(write(UninstallManager::historyFilePath(),
@@ -113,6 +117,12 @@ private slots:
             QVERIFY(QDir().mkpath(chromium + QStringLiteral("/Extensions")));
             QVERIFY(write(chromium + QStringLiteral("/Preferences"), preferences));
             QVERIFY(write(chromium + QStringLiteral("/Secure Preferences"), preferences));
+            break;
+        case Settings:
+            QVERIFY(write(
+                media + QStringLiteral("/links.json"), "{\"metadata\":{\"supported_languages\":[\"en\",\"de\"]}}"));
+            QVERIFY(write(media + QStringLiteral("/config/Brightfen/Norvale.conf"), "[General]\nlanguage=en\n"));
+            links = std::make_unique<LinkManager>(media + QStringLiteral("/links.json"));
             break;
         case TaskList:
             QVERIFY(write(tasks, "\"\\Foo Updater\",\"N/A\",\"Ready\"\n\"\\Other\",\"N/A\",\"Ready\"\n"));
@@ -146,6 +156,16 @@ private slots:
             QVERIFY(!result.success);
             QCOMPARE(result.error,
                 QStringLiteral("Cannot patch %1/Preferences\nCannot patch %1/Secure Preferences").arg(chromium));
+            break;
+        }
+        case Settings: {
+            // Nothing is reported: the choice holds for this run and the stored one for the next.
+            // (Qt keeps a write that failed pending for the whole process, so an earlier case may
+            // have left the other language current.)
+            const QString other
+                = links->currentLanguage() == QLatin1String("de") ? QStringLiteral("en") : QStringLiteral("de");
+            links->setLanguage(other);
+            QCOMPARE(links->currentLanguage(), other);
             break;
         }
         case TaskList: {
