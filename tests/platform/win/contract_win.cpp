@@ -128,6 +128,9 @@ bool makeLink(const std::filesystem::path& target, const std::filesystem::path& 
 
 void removeTree(const std::filesystem::path& folder)
 {
+    // Nothing to wait for otherwise: a late rm would take what the caller makes there next.
+    if (::GetFileAttributesW(folder.wstring().c_str()) == INVALID_FILE_ATTRIBUTES)
+        return;
     const std::string unix = unixPath(folder);
     if (unix.empty() || unix.find(' ') != std::string::npos)
         return;
