@@ -428,6 +428,49 @@ private slots:
             QVERIFY(!QFileInfo(f->target()).isSymLink());
     }
 
+    // The remover rewrites the browser's own files beside the folders it deletes. A link in the
+    // place of one is refused like a linked folder: rewriting it would write through to whatever
+    // it names.
+    void profileFilesBehindLinksAreNotRewritten_data()
+    {
+        QTest::addColumn<QString>("browser");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("error");
+        const QString chromium = QStringLiteral("Google/Chrome/User Data/Default/");
+        QTest::newRow("Chromium Preferences") << "Google Chrome" << chromium + "Preferences"
+                                              << "Cannot patch ";
+        QTest::newRow("Chromium Secure Preferences") << "Google Chrome" << chromium + "Secure Preferences"
+                                                     << "Cannot patch ";
+        QTest::newRow("Firefox extensions.json") << "Mozilla Firefox"
+                                                 << "Mozilla/Firefox/Profiles/abc.default/extensions.json"
+                                                 << "Cannot write ";
+    }
+
+    void profileFilesBehindLinksAreNotRewritten()
+    {
+        QFETCH(QString, browser);
+        QFETCH(QString, file);
+        QFETCH(QString, error);
+        const Machine m;
+        const bool firefox = browser.startsWith(QLatin1String("Mozilla"));
+        const QString path = (firefox ? m.roaming() : m.local()) + QLatin1Char('/') + file;
+        BrowserExt ext;
+        ext.browser = browser;
+        ext.id = QStringLiteral("abcdefghijklmnopabcdefghijklmnop");
+        // What the link names looks exactly like the file the remover expects, so only the link stops it.
+        const QByteArray text = firefox ? "{\"addons\":[{\"id\":\"" + ext.id.toUtf8() + "\"}]}"
+                                        : "{\"extensions\":{\"settings\":{\"" + ext.id.toUtf8() + "\":{}}}}";
+        QVERIFY(write(m.victim(QStringLiteral("profile.json")), text));
+        QVERIFY(QDir().mkpath(QFileInfo(path).path() + (firefox ? QString() : QStringLiteral("/Extensions"))));
+        QVERIFY(link(m.victim(QStringLiteral("profile.json")), path));
+
+        const treedigest::Digest before = treedigest::of(fsPath(m.base()));
+        const BrowserExtRemover::Result result = BrowserExtRemover::remove(ext);
+        QCOMPARE(treedigest::lost(before, treedigest::of(fsPath(m.base()))), std::vector<std::string>());
+        QVERIFY(!result.success);
+        QCOMPARE(result.error, error + path);
+    }
+
     void cleanupTestCase()
     {
         // The matrix as it can be quoted: files outside the target lost per feature and attack.
