@@ -157,6 +157,8 @@ QWidget* BrowserExtPage::createHeader()
     layout->addWidget(title);
     m_count = new QLabel(header);
     m_count->setObjectName(QStringLiteral("PageSubLabel"));
+    // Takes a second line before the title is cut, when a language needs the room.
+    m_count->setWordWrap(true);
     layout->addWidget(m_count);
     layout->addStretch();
 
