@@ -56,8 +56,14 @@ bool writeChecked(const QString& path, const QByteArray& text)
 {
     if (!JsonText(text).isObjectDocument())
         return false;
+    // A link in the file's place is refused as a linked folder is: QSaveFile would write through
+    // it to whatever file it names, wherever that is.
+    if (QFileInfo(path).isSymLink())
+        return false;
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    // Unbuffered: a write that fails for space must fail here, and not in the flush inside
+    // commit(), which would then put an empty file in place of the browser's.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return false;
     if (file.write(text) != text.size())
         return false;

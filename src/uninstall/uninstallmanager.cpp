@@ -482,7 +482,9 @@ bool UninstallManager::saveHistory()
         return false;
     // Written beside the old file and swapped in, so a crash mid-write keeps the old history.
     QSaveFile file(historyFilePath());
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    // Unbuffered: a write that fails for space must fail here, where QSaveFile notes it, and not
+    // in the flush inside commit(), which would then put an empty file in place of the old one.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
         qWarning() << "[UninstallManager] Cannot save history:" << file.errorString();
         return false;
     }
