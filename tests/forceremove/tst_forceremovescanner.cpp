@@ -178,11 +178,7 @@ public:
     {
         if (QString::fromStdWString(folder) != m_locked)
             return m_fs.removeFolder(folder);
-        platform::EmptyFolderResult partly;
-        partly.opened = true;
-        partly.removed = 1;
-        partly.failed = 1;
-        return partly;
+        return { true, 1, 1, 0 }; // one entry went, one stayed
     }
     bool removeFile(const std::wstring& path) override { return m_fs.removeFile(path); }
 
