@@ -80,10 +80,10 @@ QList<BrowserExtRow*> rowsOf(const BrowserExtPage& page)
 
 BrowserExtRow* rowNamed(const BrowserExtPage& page, const QString& name)
 {
-    const QList<BrowserExtRow*> rows = rowsOf(page);
-    const auto it
-        = std::find_if(rows.begin(), rows.end(), [&](BrowserExtRow* r) { return r->extension().name == name; });
-    return it == rows.end() ? nullptr : *it;
+    for (BrowserExtRow* row : rowsOf(page))
+        if (row->extension().name == name)
+            return row;
+    return nullptr;
 }
 
 QString labelText(const QWidget& page, const char* objectName)
