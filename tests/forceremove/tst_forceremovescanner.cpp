@@ -67,7 +67,6 @@ void installFooApp(SandboxMachine& m, RecordedTools& tools)
     m.addService(QStringLiteral("OtherSvc"), QStringLiteral("C:\\Other\\svc.exe"), QStringLiteral("Other"));
 }
 
-// A machine, recorded tools and a scanner that uses them.
 struct Rig {
     SandboxMachine m;
     std::shared_ptr<RecordedTools> tools = std::make_shared<RecordedTools>();
