@@ -46,7 +46,6 @@ QByteArray manifest(const QByteArray& displayName, const QByteArray& publisher =
 class tst_WinAppScanner : public QObject {
     Q_OBJECT
 
-    // Scans the fake catalogue and returns what scanDone delivered.
     QList<WinApp> scan(QList<int>* progress = nullptr)
     {
         WinAppScanner scanner;
