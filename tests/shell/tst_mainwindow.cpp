@@ -77,6 +77,8 @@ private slots:
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         const QRect before = window.geometry();
+        sendMouse(window.titleBar(), QEvent::MouseButtonDblClick, QPoint(100, 20), Qt::RightButton, Qt::RightButton);
+        QVERIFY(!window.isMaximizedByWindow()); // only the left button
         sendMouse(window.titleBar(), QEvent::MouseButtonDblClick, QPoint(100, 20), Qt::LeftButton, Qt::LeftButton);
         QVERIFY(window.isMaximizedByWindow());
         QVERIFY(window.titleBar()->isMaximized());
