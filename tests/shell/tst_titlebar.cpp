@@ -111,16 +111,6 @@ private slots:
         QCOMPARE(spy.count(), 1);
     }
 
-    void doubleClickRequestsMaximize()
-    {
-        TitleBar bar;
-        QSignalSpy maximize(&bar, &TitleBar::maximizeRequested);
-        sendMouse(&bar, QEvent::MouseButtonDblClick, QPoint(50, 20), Qt::LeftButton, Qt::LeftButton);
-        QCOMPARE(maximize.count(), 1);
-        sendMouse(&bar, QEvent::MouseButtonDblClick, QPoint(50, 20), Qt::RightButton, Qt::RightButton);
-        QCOMPARE(maximize.count(), 1);
-    }
-
     void dragMovesTheWindow()
     {
         QWidget window;
