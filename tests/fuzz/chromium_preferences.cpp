@@ -1,0 +1,28 @@
+// A "Preferences" or "Secure Preferences" file patched to disable one extension. Input: the
+// extension ID on the first line, the file after it.
+
+#include "fuzztarget.h"
+
+#include "browserext/browserextremover.h"
+#include "browserext/jsontext.h"
+
+NORVALE_FUZZ_TARGET(chromium_preferences)
+{
+    const QList<QByteArray> input = fuzz::fields(data, size, "\n", 2);
+    const QString id = QString::fromUtf8(input[0]);
+    const QByteArray& text = input[1];
+    const std::optional<QByteArray> patched = BrowserExtRemover::patchedPreferences(text, id);
+    if (!patched || *patched == text)
+        return 0;
+    // The writer refuses a text that is not a whole object: that would be a patch never applied.
+    const JsonText json(*patched);
+    FUZZ_CHECK(json.isObjectDocument());
+    const JsonText::Span entry = json.member(
+        json.member(json.member(json.root(), QStringLiteral("extensions")), QStringLiteral("settings")), id);
+    FUZZ_CHECK(json.isObject(entry));
+    FUZZ_CHECK(json.bytes(json.member(entry, QStringLiteral("state"))) == "0");
+    FUZZ_CHECK(json.bytes(json.member(entry, QStringLiteral("disable_reasons"))) == "1");
+    // Patching twice changes nothing more, so a retried removal leaves the file alone.
+    FUZZ_CHECK(BrowserExtRemover::patchedPreferences(*patched, id) == patched);
+    return 0;
+}
