@@ -3,8 +3,12 @@
 
 #include "fuzztarget.h"
 
+#include "browserext/browserextpaths.h"
 #include "browserext/browserextremover.h"
 #include "browserext/jsontext.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
 
 NORVALE_FUZZ_TARGET(chromium_preferences)
 {
@@ -22,6 +26,12 @@ NORVALE_FUZZ_TARGET(chromium_preferences)
     FUZZ_CHECK(json.isObject(entry));
     FUZZ_CHECK(json.bytes(json.member(entry, QStringLiteral("state"))) == "0");
     FUZZ_CHECK(json.bytes(json.member(entry, QStringLiteral("disable_reasons"))) == "1");
+    // A browser reads the file with its own parser: it must see the same entry turned off and
+    // the extension unpinned.
+    const QJsonObject extensions = browserext::parseObject(*patched).value(QLatin1String("extensions")).toObject();
+    const QJsonObject seen = extensions.value(QLatin1String("settings")).toObject().value(id).toObject();
+    FUZZ_CHECK(seen.value(QLatin1String("state")) == 0 && seen.value(QLatin1String("disable_reasons")) == 1);
+    FUZZ_CHECK(!extensions.value(QLatin1String("pinned_extensions")).toArray().contains(id));
     // Patching twice changes nothing more, so a retried removal leaves the file alone.
     FUZZ_CHECK(BrowserExtRemover::patchedPreferences(*patched, id) == patched);
     return 0;
