@@ -10,11 +10,30 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+namespace {
+
+// Every member the text editor finds holds the value a browser's parser reads there.
+void checkMembersAgainstParser(const QByteArray& text)
+{
+    const JsonText json(text);
+    if (!json.isObjectDocument())
+        return;
+    const QJsonObject parsed = browserext::parseObject(text);
+    for (auto it = parsed.begin(); it != parsed.end(); ++it) {
+        const QByteArray value = json.bytes(json.member(json.root(), it.key()));
+        const QJsonObject wrapped = browserext::parseObject("{\"v\":" + value + "}");
+        FUZZ_CHECK(wrapped.contains(QLatin1String("v")) && wrapped.value(QLatin1String("v")) == it.value());
+    }
+}
+
+} // namespace
+
 NORVALE_FUZZ_TARGET(chromium_preferences)
 {
     const QList<QByteArray> input = fuzz::fields(data, size, "\n", 2);
     const QString id = QString::fromUtf8(input[0]);
     const QByteArray& text = input[1];
+    checkMembersAgainstParser(text);
     const std::optional<QByteArray> patched = BrowserExtRemover::patchedPreferences(text, id);
     if (!patched || *patched == text)
         return 0;

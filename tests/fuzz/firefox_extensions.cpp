@@ -18,8 +18,12 @@ NORVALE_FUZZ_TARGET(firefox_extensions)
     const QList<QByteArray> input = fuzz::fields(data, size, "\n", 2);
     const QString id = QString::fromUtf8(input[0]);
     const QByteArray& text = input[1];
-    for (const BrowserExt& ext : BrowserExtScanner::firefoxExtensions(text, Profile))
+    // Every add-on the page lists, the remover finds in a file it may edit.
+    const bool editable = JsonText(text).isObjectDocument();
+    for (const BrowserExt& ext : BrowserExtScanner::firefoxExtensions(text, Profile)) {
         FUZZ_CHECK(!ext.id.isEmpty() && !ext.name.isEmpty());
+        FUZZ_CHECK(!editable || BrowserExtRemover::withoutFirefoxAddon(text, ext.id));
+    }
 
     const std::optional<QByteArray> edited = BrowserExtRemover::withoutFirefoxAddon(text, id);
     if (!edited)
