@@ -12,17 +12,18 @@
 
 namespace {
 
-// Every member the text editor finds holds the value a browser's parser reads there.
-void checkMembersAgainstParser(const QByteArray& text)
+// Every member and element the text editor finds holds the value a browser's parser reads there,
+// at every level the patch may reach.
+void checkAgainstParser(const JsonText& json, JsonText::Span object, const QJsonObject& parsed, int depth = 0)
 {
-    const JsonText json(text);
-    if (!json.isObjectDocument())
-        return;
-    const QJsonObject parsed = browserext::parseObject(text);
     for (auto it = parsed.begin(); it != parsed.end(); ++it) {
-        const QByteArray value = json.bytes(json.member(json.root(), it.key()));
-        const QJsonObject wrapped = browserext::parseObject("{\"v\":" + value + "}");
+        const JsonText::Span span = json.member(object, it.key());
+        const QJsonObject wrapped = browserext::parseObject("{\"v\":" + json.bytes(span) + "}");
         FUZZ_CHECK(wrapped.contains(QLatin1String("v")) && wrapped.value(QLatin1String("v")) == it.value());
+        if (it.value().isArray())
+            FUZZ_CHECK(json.elements(span).size() == it.value().toArray().size());
+        else if (it.value().isObject() && depth < 4)
+            checkAgainstParser(json, span, it.value().toObject(), depth + 1);
     }
 }
 
@@ -33,7 +34,8 @@ NORVALE_FUZZ_TARGET(chromium_preferences)
     const QList<QByteArray> input = fuzz::fields(data, size, "\n", 2);
     const QString id = QString::fromUtf8(input[0]);
     const QByteArray& text = input[1];
-    checkMembersAgainstParser(text);
+    if (const JsonText json(text); json.isObjectDocument())
+        checkAgainstParser(json, json.root(), browserext::parseObject(text));
     const std::optional<QByteArray> patched = BrowserExtRemover::patchedPreferences(text, id);
     if (!patched || *patched == text)
         return 0;
