@@ -67,6 +67,10 @@ struct UserAssistValue {
     std::uint64_t lastRun = 0; // FILETIME: 100 ns units since 1601
 };
 
+// One enumerated value as a usage record: nullopt unless it was read, is binary and holds at
+// least 24 bytes.
+std::optional<UserAssistValue> decodeUserAssistValue(const EnumeratedValue& value);
+
 // The usable values of both Count keys, in key and index order: enumerated successfully, binary,
 // and at least 24 bytes long.
 std::vector<UserAssistValue> readUserAssistValues(const Registry& registry);

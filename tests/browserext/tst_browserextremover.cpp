@@ -141,6 +141,10 @@ private slots:
             << true;
         QTest::newRow("ID spelt with escapes")
             << "{\"extensions\":{\"settings\":{\"\\u0061" + id.mid(1) + "\":{\"state\":1}}}}" << true;
+        // Found by fuzzing: the decoy's U+FEFF after an escape was dropped, so the decoy, named
+        // last, was taken for the entry and the browser's own entry stayed enabled.
+        QTest::newRow("key differing from the ID by a U+FEFF after an escape")
+            << head + "{\"state\":1},\"\\u0061\xEF\xBB\xBF" + id.mid(1) + "\":{\"state\":5}}}}" << true;
         QTest::newRow("entry named twice") << head + "{\"state\":1},\"" + id + "\":{\"state\":2}}}}" << true;
         QTest::newRow("state named twice") << head + "{\"state\":1,\"disable_reasons\":4,\"state\":1}}}}" << true;
         QTest::newRow("extensions named twice")
