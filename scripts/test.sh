@@ -1,40 +1,98 @@
 #!/usr/bin/env bash
-# Builds Norvale and runs both test lanes: the native Qt Test and platform suites, then the
-# platform layer cross-compiled with mingw-w64 under Wine. Exits non-zero if anything fails.
+# Builds Norvale and runs its test lanes; exits non-zero if anything fails.
+#   scripts/test.sh                 the native lane, the Windows lane (mingw-w64 + Wine) and the
+#                                   ASan/UBSan lane, as CI runs them
+#   scripts/test.sh --asan          only the native suites built with AddressSanitizer and
+#                                   UndefinedBehaviorSanitizer (build/asan)
+#   scripts/test.sh --tsan          only the native suites built with ThreadSanitizer (build/tsan)
+#   scripts/test.sh --native --wine --asan --tsan    any set of lanes, in this order
+# A sanitizer report fails the test that caused it. Suppressions live in tests/sanitizers.
 set -uo pipefail
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 build="${NORVALE_BUILD_DIR:-$root/build}"
 jobs="$(nproc 2>/dev/null || echo 2)"
 
+lanes=()
+for arg in "$@"; do
+    case "$arg" in
+        --native | --wine | --asan | --tsan) lanes+=("${arg#--}") ;;
+        -h | --help) sed -n '2,9p' "${BASH_SOURCE[0]}" | sed 's/^# \{0,1\}//'; exit 0 ;;
+        *) echo "unknown option: $arg (try --help)" >&2; exit 2 ;;
+    esac
+done
+[ ${#lanes[@]} -eq 0 ] && lanes=(native wine asan)
+
 "$root/scripts/setup.sh" || exit 1
 
-echo "== native lane: configure and build"
-cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null || exit 1
-cmake --build "$build" -j"$jobs" || exit 1
+launcher=()
+command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 
-echo "== native lane: tests"
-native_log="$(mktemp)"
-(cd "$build" && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j"$jobs" 2>&1) | tee "$native_log"
-native_status=${PIPESTATUS[0]}
+supp="$root/tests/sanitizers"
+# Reports end the program with this status, so CTest sees a failure even where a test would pass.
+export ASAN_OPTIONS="halt_on_error=1:abort_on_error=0:exitcode=66:detect_leaks=1:strict_init_order=1:detect_stack_use_after_return=1"
+export LSAN_OPTIONS="suppressions=$supp/lsan.supp:print_suppressions=0"
+export UBSAN_OPTIONS="halt_on_error=1:print_stacktrace=1:exitcode=66:suppressions=$supp/ubsan.supp"
+export TSAN_OPTIONS="halt_on_error=1:exitcode=66:second_deadlock_stack=1:suppressions=$supp/tsan.supp:print_suppressions=0"
 
-echo "== Windows lane (mingw-w64 + Wine): build and tests"
-wine_log="$(mktemp)"
-"$root/scripts/test-wine.sh" "$build" 2>&1 | tee "$wine_log"
-wine_status=${PIPESTATUS[0]}
+summary=()
+failed=0
+total_passed=0
 
-count() { # passed failed from a ctest summary line
+count() { # failed total, from a CTest summary line
     sed -n 's/.*tests passed, \([0-9]*\) tests\{0,1\} failed out of \([0-9]*\).*/\1 \2/p' "$1" | tail -1
 }
-read -r nf nt <<<"$(count "$native_log")"
-read -r wf wt <<<"$(count "$wine_log")"
-nf=${nf:-0}; nt=${nt:-0}; wf=${wf:-0}; wt=${wt:-0}
-rm -f "$native_log" "$wine_log"
+
+# lane name, CTest log, status of the lane's command, seconds
+record() {
+    local nf nt
+    read -r nf nt <<<"$(count "$2")"
+    nf=${nf:-0}; nt=${nt:-0}
+    summary+=("$(printf '%-8s %4d of %4d passed  %5d s' "$1" "$((nt - nf))" "$nt" "$4")")
+    total_passed=$((total_passed + nt - nf))
+    if [ "$3" -ne 0 ] || [ "$nt" -eq 0 ]; then
+        failed=$((failed + (nf > 0 ? nf : 1)))
+    fi
+}
+
+# lane name, build folder, extra CMake arguments...: configure, build and run the native suites.
+native_suites() {
+    local name="$1" dir="$2" started log status
+    shift 2
+    started=$(date +%s)
+    log="$(mktemp)"
+    echo "== $name lane: configure and build ($dir)"
+    if cmake -S "$root" -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "${launcher[@]}" "$@" >/dev/null \
+        && cmake --build "$dir" -j"$jobs"; then
+        echo "== $name lane: tests"
+        (cd "$dir" && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j"$jobs" 2>&1) | tee "$log"
+        status=${PIPESTATUS[0]}
+    else
+        status=1
+    fi
+    record "$name" "$log" "$status" "$(($(date +%s) - started))"
+    rm -f "$log"
+}
+
+for lane in "${lanes[@]}"; do
+    case "$lane" in
+        native) native_suites native "$build" -DNORVALE_SANITIZE= ;;
+        asan) native_suites asan "$build/asan" -DNORVALE_SANITIZE=address ;;
+        tsan) native_suites tsan "$build/tsan" -DNORVALE_SANITIZE=thread ;;
+        wine)
+            echo "== Windows lane (mingw-w64 + Wine): build and tests"
+            started=$(date +%s)
+            log="$(mktemp)"
+            "$root/scripts/test-wine.sh" "$build" 2>&1 | tee "$log"
+            record windows "$log" "${PIPESTATUS[0]}" "$(($(date +%s) - started))"
+            rm -f "$log"
+            ;;
+    esac
+done
 
 echo
-echo "native lane: $((nt - nf)) of $nt passed; Windows lane: $((wt - wf)) of $wt passed"
-if [ "$native_status" -ne 0 ] || [ "$wine_status" -ne 0 ] || [ "$nt" -eq 0 ] || [ "$wt" -eq 0 ]; then
-    fails=$((nf + wf)); [ "$fails" -eq 0 ] && fails=1
-    echo "Total: $((nt - nf + wt - wf)) passed, $fails failed"
+printf '%s\n' "${summary[@]}"
+if [ "$failed" -ne 0 ]; then
+    echo "Total: $total_passed passed, $failed failed"
     exit 1
 fi
-echo "Total: $((nt + wt)) passed, 0 failed"
+echo "Total: $total_passed passed, 0 failed"
