@@ -164,7 +164,8 @@ void UninstallManager::refresh()
         rebuild();
         // Cleared before the signal, so a receiver may start the next refresh at once.
         m_refreshing = false;
-        emit refreshFinished();
+        if (!m_stopping)
+            emit refreshFinished();
     });
 }
 
@@ -207,7 +208,10 @@ void UninstallManager::rebuild()
     const QDate day = today();
 
     QList<InstalledApp> list;
-    for (const platform::UninstallEntry& entry : platform::readUninstallEntries(platform::current().registry())) {
+    for (const platform::UninstallEntry& entry :
+        platform::readUninstallEntries(platform::current().registry(), &m_stopping)) {
+        if (m_stopping)
+            return; // the manager is going away; nobody will read a partial list
         const QString name = fromWide(entry.displayName).trimmed();
         if (name.isEmpty())
             continue;
