@@ -32,6 +32,7 @@
 #include <QFile>
 #include <QFutureWatcherBase>
 #include <QMessageBox>
+#include <QPointer>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -120,7 +121,10 @@ void answerEveryBox(QObject* parent)
 
 // One window, its work started, and whether that work is still going.
 struct Run {
-    std::unique_ptr<QWidget> window;
+    // Guarded: the force-remove dialog deletes itself when it closes, and quitting closes it.
+    QPointer<QWidget> window;
+
+    ~Run() { delete window.data(); }
     std::function<bool()> busy;
 };
 
@@ -138,7 +142,7 @@ void startCleanup(Run& run, const std::function<void()>& begin, bool clean)
     fill(machine(L"C:/Windows/Temp"), 40, 250);
     fill(machine(L"C:/Windows.old"), 60, 250);
     auto* page = new CleanupPage;
-    run.window.reset(page);
+    run.window = page;
     CleanupScanner* scanner = page->scanner();
     auto done = finishedFlag();
     run.busy = [done] { return !done->load(); };
@@ -173,7 +177,7 @@ void startUninstall(Run& run, const std::function<void()>& begin)
     // Written before the platform is first used: the sandbox reads its registry once, at the start.
     writeFile(qEnvironmentVariable("NORVALE_SANDBOX") + QStringLiteral("/registry.reg"), reg);
     auto* page = new UninstallPage;
-    run.window.reset(page);
+    run.window = page;
     UninstallManager* manager = page->manager();
     auto done = finishedFlag();
     QObject::connect(
@@ -190,7 +194,7 @@ void startResidue(Run& run, const std::function<void()>& begin, bool clean)
         fill(machine(L"C:/ProgramData") + QStringLiteral("/Left Behind %1").arg(i), 2, 100);
     }
     auto* dialog = new ResidueDialog(QList<InstalledApp>());
-    run.window.reset(dialog);
+    run.window = dialog;
     ResidueScanner* scanner = dialog->scanner();
     auto done = finishedFlag();
     run.busy = [done] { return !done->load(); };
@@ -214,15 +218,16 @@ void startResidue(Run& run, const std::function<void()>& begin, bool clean)
 
 void startForceRemove(Run& run, const std::function<void()>& begin, bool removal)
 {
-    fill(machine(L"C:/Program Files/Bulk App"), 100, 200);
-    fill(variable(L"APPDATA") + QStringLiteral("/Bulk App"), 20, 100);
-    fill(variable(L"LOCALAPPDATA") + QStringLiteral("/Bulk App"), 20, 100);
+    // Spread over three targets: the one being deleted at the close is finished, not cut short.
+    fill(machine(L"C:/Program Files/Bulk App"), 60, 150);
+    fill(variable(L"APPDATA") + QStringLiteral("/Bulk App"), 40, 150);
+    fill(variable(L"LOCALAPPDATA") + QStringLiteral("/Bulk App"), 40, 150);
     InstalledApp app;
     app.name = QStringLiteral("Bulk App");
     app.publisher = QStringLiteral("Bulk Inc.");
     app.installLocation = QStringLiteral("C:\\Program Files\\Bulk App");
     auto* dialog = new ForceRemoveDialog(app);
-    run.window.reset(dialog);
+    run.window = dialog;
     ForceRemoveScanner* scanner = dialog->scanner();
     auto done = finishedFlag();
     run.busy = [done] { return !done->load(); };
@@ -255,7 +260,7 @@ void startWinApps(Run& run, const std::function<void()>& begin, bool removal)
     }
     writeFile(qEnvironmentVariable("NORVALE_SANDBOX") + QStringLiteral("/packages.txt"), catalogue);
     auto* page = new WinAppsPage;
-    run.window.reset(page);
+    run.window = page;
     if (!removal) {
         page->startScan();
         auto* scanner = page->findChild<WinAppScanner*>();
@@ -292,7 +297,7 @@ void startBrowserExt(Run& run, const std::function<void()>& begin, bool removal)
             fill(version + QStringLiteral("/assets"), 10, 100);
     }
     auto* page = new BrowserExtPage;
-    run.window.reset(page);
+    run.window = page;
     page->setProgramStarter([](const QString&, const QStringList&) { return false; });
     page->setUrlOpener([](const QUrl&) { return false; });
     page->show();
@@ -318,9 +323,10 @@ void startBrowserExt(Run& run, const std::function<void()>& begin, bool removal)
                 for (BrowserExtRow* row : group->rows())
                     row->setSelected(true);
             }
-            // The confirmation runs its own loop, so the closing is armed before it opens.
-            begin();
+            // Returns once the confirmation is answered and the batch runs; a page cannot go
+            // while its own question is open.
             page->onRemoveSelected();
+            begin();
         });
 }
 
@@ -352,6 +358,25 @@ Start startFor(const QString& name)
     return {};
 }
 
+// Qt's complaints about objects used across threads or after their end; any of them fails the row.
+std::atomic_int threadComplaints { 0 };
+QtMessageHandler defaultHandler = nullptr;
+
+void watchForComplaints(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    static const char* const complaints[] = { "QObject::", "QThread", "QBasicTimer", "QSocketNotifier", "QTimer" };
+    if (type != QtDebugMsg && type != QtInfoMsg) {
+        for (const char* complaint : complaints) {
+            if (message.startsWith(QLatin1String(complaint)))
+                ++threadComplaints;
+        }
+    }
+    if (defaultHandler)
+        defaultHandler(type, context, message);
+    else
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
 void say(const char* line)
 {
     std::fputs(line, stdout);
@@ -373,7 +398,8 @@ int runChild(QApplication& app, const QString& name, bool quit)
             app.quit();
             return; // the window goes as main() unwinds, after the loop, as in the program
         }
-        run.window.reset();
+        run.window->close();
+        delete run.window.data();
         QTimer::singleShot(ExtraDrainMs, &app, &QApplication::quit);
     };
     start(run, [&armed, close] {
@@ -381,7 +407,10 @@ int runChild(QApplication& app, const QString& name, bool quit)
             QTimer::singleShot(CloseAfterMs, close);
     });
     say("@@started");
-    return app.exec();
+    defaultHandler = qInstallMessageHandler(watchForComplaints);
+    const int status = app.exec();
+    delete run.window.data();
+    return status == 0 && threadComplaints == 0 ? 0 : 3;
 }
 
 } // namespace
