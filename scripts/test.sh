@@ -32,7 +32,10 @@ supp="$root/tests/sanitizers"
 export ASAN_OPTIONS="halt_on_error=1:abort_on_error=0:exitcode=66:detect_leaks=1:strict_init_order=1:detect_stack_use_after_return=1"
 export LSAN_OPTIONS="suppressions=$supp/lsan.supp:print_suppressions=0"
 export UBSAN_OPTIONS="halt_on_error=1:print_stacktrace=1:exitcode=66:suppressions=$supp/ubsan.supp"
-export TSAN_OPTIONS="halt_on_error=1:exitcode=66:second_deadlock_stack=1:suppressions=$supp/tsan.supp:print_suppressions=0"
+# Debian's Qt is not built with TSan: its own memory accesses and the hand-offs made inside it
+# (the thread pool's queue, queued signals) are invisible, so accesses made from Qt's code are
+# not checked. Every access from Norvale's code still is.
+export TSAN_OPTIONS="halt_on_error=1:exitcode=66:second_deadlock_stack=1:ignore_noninstrumented_modules=1:suppressions=$supp/tsan.supp:print_suppressions=0"
 
 summary=()
 failed=0

@@ -389,6 +389,10 @@ int runChild(QApplication& app, const QString& name, bool quit)
     const Start start = startFor(name);
     if (!start)
         return 2;
+    // The drain after a close must run even when the closed window was the only one shown.
+    app.setQuitOnLastWindowClosed(false);
+    // Before any worker thread exists: the handler is read from every thread that logs.
+    defaultHandler = qInstallMessageHandler(watchForComplaints);
     Run run;
     bool armed = false;
     const auto close = [&run, &app, quit] {
@@ -407,7 +411,6 @@ int runChild(QApplication& app, const QString& name, bool quit)
             QTimer::singleShot(CloseAfterMs, close);
     });
     say("@@started");
-    defaultHandler = qInstallMessageHandler(watchForComplaints);
     const int status = app.exec();
     delete run.window.data();
     return status == 0 && threadComplaints == 0 ? 0 : 3;
