@@ -51,7 +51,7 @@ namespace {
 
 constexpr qint64 ExitBoundMs = 2000; // how long a user waits for a closed program to be gone
 constexpr int ChildTimeoutMs = 240000; // building the trees under a sanitizer is slow
-constexpr int CloseAfterMs = 30; // the work has begun, and a large tree keeps it busy for longer
+constexpr int CloseAfterMs = 5; // the work has begun; a large tree keeps it busy for far longer
 constexpr int ExtraDrainMs = 300; // queued signals to the closed window get their chance to land
 
 // ---- the child -----------------------------------------------------------------------------
