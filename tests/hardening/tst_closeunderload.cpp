@@ -468,7 +468,8 @@ private slots:
             if (output.contains("@@closing"))
                 sinceClose.start();
         }
-        const bool ended = child.waitForFinished(ChildTimeoutMs);
+        // waitForFinished() answers false for a child that already ended while its output was read.
+        const bool ended = child.state() == QProcess::NotRunning || child.waitForFinished(ChildTimeoutMs);
         const qint64 exitMs = sinceClose.isValid() ? sinceClose.elapsed() : -1;
         output += child.readAllStandardOutput();
         const QByteArray errors = child.readAllStandardError();
