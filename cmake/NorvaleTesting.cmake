@@ -4,7 +4,8 @@
 # developer's real settings; run by hand, a suite makes throw-away ones (tests/support).
 function(norvale_add_qt_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/isolatedhome.cpp)
+    add_executable(${name} ${ARG_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/isolatedhome.cpp
+                           ${PROJECT_SOURCE_DIR}/tests/support/sanitizerpool.cpp)
     target_link_libraries(${name} PRIVATE Qt6::Test ${ARG_LIBS})
     add_test(NAME ${name} COMMAND ${name})
     set(home "${CMAKE_BINARY_DIR}/test-home/${name}")

@@ -153,6 +153,9 @@ void BrowserExtScanner::run()
     QList<BrowserExt> all = scanChromium(browserext::Chrome, "[scanChrome]", true);
     all += scanChromium(browserext::Edge, "[scanEdge]", false);
     all += scanFirefox();
+    // The page that asked is going away: a partial list would only be wrong.
+    if (isInterruptionRequested())
+        return;
 
     QList<BrowserExt> unique;
     QSet<QString> seen;
@@ -178,6 +181,8 @@ QList<BrowserExt> BrowserExtScanner::scanChromium(const QString& browser, const 
         }
         qDebug().noquote() << logPrefix << "scanning:" << userData;
         for (const QString& name : subFolders(userData)) {
+            if (isInterruptionRequested())
+                return found;
             const QString profile = userData + QLatin1Char('/') + name;
             if (!QFileInfo(profile + QLatin1String("/Extensions")).isDir())
                 continue;
@@ -201,6 +206,8 @@ QList<BrowserExt> BrowserExtScanner::scanChromiumProfile(const QString& profile,
                                      .toObject();
     QList<BrowserExt> found;
     for (const QString& id : subFolders(extensions)) {
+        if (isInterruptionRequested())
+            break;
         if (settings.contains(id)) {
             const QJsonObject entry = settings.value(id).toObject();
             const int location = entry.value(QLatin1String("location")).toInt(1);
@@ -264,6 +271,8 @@ QList<BrowserExt> BrowserExtScanner::scanFirefox() const
     const QString profiles = roaming + QLatin1String("/Mozilla/Firefox/Profiles");
     QList<BrowserExt> found;
     for (const QString& name : subFolders(profiles)) {
+        if (isInterruptionRequested())
+            break;
         const QString profile = profiles + QLatin1Char('/') + name;
         if (const std::optional<QByteArray> bytes
             = browserext::readSmallFile(profile + QLatin1String("/extensions.json")))

@@ -8,6 +8,7 @@
 
 // Lists the extensions installed in Chrome and Edge (every channel) and Firefox from the browsers'
 // own profile files. The whole scan runs in run(), on this thread; the list leaves in scanDone.
+// An interruption request ends the scan early, and then no list is sent.
 class BrowserExtScanner final : public QThread {
     Q_OBJECT
 public:

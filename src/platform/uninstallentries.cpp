@@ -54,7 +54,7 @@ std::optional<UninstallEntry> readUninstallEntry(const Registry& registry, Hive 
     return e;
 }
 
-std::vector<UninstallEntry> readUninstallEntries(const Registry& registry)
+std::vector<UninstallEntry> readUninstallEntries(const Registry& registry, const std::atomic<bool>* stop)
 {
     std::vector<UninstallEntry> out;
     for (const UninstallRoot& root : uninstallRoots()) {
@@ -62,6 +62,8 @@ std::vector<UninstallEntry> readUninstallEntries(const Registry& registry)
         if (!names)
             continue;
         for (const std::wstring& name : *names) {
+            if (stop && stop->load())
+                return out;
             if (auto entry = readUninstallEntry(registry, root.hive, root.path + L"\\" + name))
                 out.push_back(std::move(*entry));
         }

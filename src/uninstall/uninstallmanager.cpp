@@ -152,6 +152,9 @@ UninstallManager::~UninstallManager()
     m_refresh.waitForFinished();
     m_previousRefresh.waitForFinished();
     m_batch.waitForFinished();
+    // The future's own hand-off happens inside Qt, where the thread checker cannot see it; the
+    // lock the task last wrote under makes that write visibly come before the memory goes.
+    QMutexLocker lock(&m_mutex);
 }
 
 void UninstallManager::refresh()
@@ -163,8 +166,14 @@ void UninstallManager::refresh()
     m_refresh = QtConcurrent::run([this] {
         rebuild();
         // Cleared before the signal, so a receiver may start the next refresh at once.
-        m_refreshing = false;
-        emit refreshFinished();
+        bool stopping = false;
+        {
+            QMutexLocker lock(&m_mutex);
+            m_refreshing = false;
+            stopping = m_stopping;
+        }
+        if (!stopping)
+            emit refreshFinished();
     });
 }
 
@@ -207,7 +216,10 @@ void UninstallManager::rebuild()
     const QDate day = today();
 
     QList<InstalledApp> list;
-    for (const platform::UninstallEntry& entry : platform::readUninstallEntries(platform::current().registry())) {
+    for (const platform::UninstallEntry& entry :
+        platform::readUninstallEntries(platform::current().registry(), &m_stopping)) {
+        if (m_stopping)
+            return; // the manager is going away; nobody will read a partial list
         const QString name = fromWide(entry.displayName).trimmed();
         if (name.isEmpty())
             continue;
