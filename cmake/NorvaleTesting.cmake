@@ -11,11 +11,14 @@ set(NORVALE_WINE_PREFIX "${CMAKE_BINARY_DIR}/prefix" CACHE PATH "The Wine prefix
 file(WRITE "${CMAKE_BINARY_DIR}/winapp-skipped-suites.txt" "")
 function(norvale_add_qt_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/isolatedhome.cpp)
+    add_executable(${name} ${ARG_SOURCES} ${PROJECT_SOURCE_DIR}/tests/support/isolatedhome.cpp
+                           ${PROJECT_SOURCE_DIR}/tests/support/sanitizerpool.cpp)
     target_link_libraries(${name} PRIVATE Qt6::Test norvale_testmachine ${ARG_LIBS})
     if(WIN32)
         set(reports "${CMAKE_BINARY_DIR}/winapp-reports")
         file(MAKE_DIRECTORY "${reports}")
+        # Through wine-run.sh: a Wine helper started by a case must not hold CTest's pipe open.
+        set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR "${PROJECT_SOURCE_DIR}/scripts/wine-run.sh")
         add_test(NAME winapp_${name} COMMAND ${name} -o "Z:${reports}/${name}.txt,txt" -o -,txt)
         set_tests_properties(winapp_${name} PROPERTIES
             ENVIRONMENT "WINEPREFIX=${NORVALE_WINE_PREFIX};WINEDEBUG=-all"

@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # Installs every Debian package that building, testing and running Norvale needs.
-# Safe to run again: it installs only what is missing.
+# Safe to run again: it installs only what is missing. Another list may be given instead (the
+# fuzz script passes its own).
 set -euo pipefail
 here="$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)"
-mapfile -t wanted < <(grep -v '^\s*#' "$here/debian-packages.txt" | sed '/^\s*$/d')
+list="${1:-$here/debian-packages.txt}"
+mapfile -t wanted < <(grep -v '^\s*#' "$list" | sed '/^\s*$/d')
 
 missing=()
 for pkg in "${wanted[@]}"; do

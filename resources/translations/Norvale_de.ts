@@ -295,7 +295,7 @@
     <name>DashboardPage</name>
     <message>
         <source>磁盘清理</source>
-        <translation>Datenträgerbereinigung</translation>
+        <translation>Datenträger­bereinigung</translation>
     </message>
     <message>
         <source>清理垃圾文件</source>
@@ -319,7 +319,7 @@
     </message>
     <message>
         <source>浏览器扩展</source>
-        <translation>Browsererweiterungen</translation>
+        <translation>Browser­erweiterungen</translation>
     </message>
     <message>
         <source>管理扩展插件</source>
@@ -715,7 +715,7 @@ Die Anwendung wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>磁盘清理</source>
-        <translation>Datenträgerbereinigung</translation>
+        <translation>Datenträger­bereinigung</translation>
     </message>
     <message>
         <source>软件卸载</source>
@@ -727,7 +727,7 @@ Die Anwendung wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>浏览器扩展</source>
-        <translation>Browsererweiterungen</translation>
+        <translation>Browser­erweiterungen</translation>
     </message>
 </context>
 <context>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>发现 %1 类可清理文件，共 %2</source>
-        <translation>Se encontraron %1 categorías de archivos que se pueden limpiar (%2 en total)</translation>
+        <translation>%1 categorías para limpiar, %2 en total</translation>
     </message>
     <message>
         <source>已选 %1 类  ·  预计释放 %2</source>

@@ -295,7 +295,7 @@
     <name>DashboardPage</name>
     <message>
         <source>磁盘清理</source>
-        <translation>ディスク クリーンアップ</translation>
+        <translation>ディスク ク⁠リ⁠ー⁠ン⁠ア⁠ッ⁠プ</translation>
     </message>
     <message>
         <source>清理垃圾文件</source>

@@ -833,7 +833,7 @@ De toepassing wordt nu opnieuw gestart.</translation>
     </message>
     <message>
         <source>Install Date</source>
-        <translation>Installatiedatum</translation>
+        <translation>Installatie­datum</translation>
     </message>
     <message>
         <source>Click Refresh to scan installed programs.</source>
@@ -990,7 +990,7 @@ Voer Norvale uit als administrator om de app volledig te verwijderen.</translati
     </message>
     <message>
         <source>安装日期</source>
-        <translation>Installatiedatum</translation>
+        <translation>Installatie­datum</translation>
     </message>
     <message>
         <source>大小</source>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>发现 %1 类可清理文件，共 %2</source>
-        <translation>%1 categorias de arquivos podem ser limpas, totalizando %2</translation>
+        <translation>%1 categorias para limpar, %2 no total</translation>
     </message>
     <message>
         <source>已选 %1 类  ·  预计释放 %2</source>

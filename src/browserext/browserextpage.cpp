@@ -135,12 +135,18 @@ BrowserExtPage::BrowserExtPage(QWidget* parent)
 
 BrowserExtPage::~BrowserExtPage()
 {
-    // A QThread must not be destroyed while it runs; the scan only reads and ends soon. An
-    // earlier scanner may still be on its way out, so every one is waited for.
-    for (BrowserExtScanner* scanner : findChildren<BrowserExtScanner*>(Qt::FindDirectChildrenOnly)) {
+    // A QThread must not be destroyed while it runs; a scan asked to stop ends at the next
+    // extension. An earlier scanner may still be on its way out, so every one is waited for.
+    const auto scanners = findChildren<BrowserExtScanner*>(Qt::FindDirectChildrenOnly);
+    for (BrowserExtScanner* scanner : scanners) {
         disconnect(scanner, nullptr, this, nullptr);
-        scanner->wait();
+        scanner->requestInterruption();
     }
+    for (BrowserExtScanner* scanner : scanners)
+        scanner->wait();
+    // A batch ends after the extension it is removing; half a removal would leave a browser
+    // profile that names an extension whose files are gone.
+    m_batchWatcher->future().cancel();
 }
 
 QWidget* BrowserExtPage::createHeader()
@@ -157,6 +163,8 @@ QWidget* BrowserExtPage::createHeader()
     layout->addWidget(title);
     m_count = new QLabel(header);
     m_count->setObjectName(QStringLiteral("PageSubLabel"));
+    // Takes a second line before the title is cut, when a language needs the room.
+    m_count->setWordWrap(true);
     layout->addWidget(m_count);
     layout->addStretch();
 
@@ -542,6 +550,8 @@ void BrowserExtPage::onRemoveSelected()
         promise.setProgressRange(0, static_cast<int>(batch.size()));
         QList<BrowserExtRemover::Result> results;
         for (qsizetype i = 0; i < batch.size(); ++i) {
+            if (promise.isCanceled())
+                return; // the page is gone; the extension being removed was finished
             promise.setProgressValueAndText(static_cast<int>(i), batch.at(i).name);
             results.append(BrowserExtRemover::remove(batch.at(i)));
         }

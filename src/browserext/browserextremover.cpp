@@ -56,8 +56,14 @@ bool writeChecked(const QString& path, const QByteArray& text)
 {
     if (!JsonText(text).isObjectDocument())
         return false;
+    // A link in the file's place is refused as a linked folder is: QSaveFile would write through
+    // it to whatever file it names, wherever that is.
+    if (QFileInfo(path).isSymLink())
+        return false;
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    // Unbuffered: a write that fails for space must fail here, and not in the flush inside
+    // commit(), which would then put an empty file in place of the browser's.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return false;
     if (file.write(text) != text.size())
         return false;
@@ -154,15 +160,24 @@ bool BrowserExtRemover::patchPreferences(const QString& path, const QString& id)
     const std::optional<QByteArray> bytes = browserext::readSmallFile(path);
     if (!bytes)
         return false;
-    JsonText json(*bytes);
-    if (!json.isObjectDocument())
+    const std::optional<QByteArray> patched = patchedPreferences(*bytes, id);
+    if (!patched)
         return false;
+    // Nothing to change is nothing to write: the browser's file is not even touched.
+    return *patched == *bytes || writeChecked(path, *patched);
+}
+
+std::optional<QByteArray> BrowserExtRemover::patchedPreferences(const QByteArray& text, const QString& id)
+{
+    JsonText json(text);
+    if (!json.isObjectDocument())
+        return std::nullopt;
     const JsonText::Span extensions = json.member(json.root(), QStringLiteral("extensions"));
     if (!extensions.isValid())
-        return true;
+        return text;
     const JsonText::Span entry = json.member(json.member(extensions, QStringLiteral("settings")), id);
     if (!entry.isValid())
-        return true; // a pinned entry alone is left as it is: nothing is written
+        return text; // a pinned entry alone is left as it is
 
     // State 0 with reason 1 is "disabled by the user": the entry stays, so the browser keeps
     // treating the extension as one the user chose to turn off rather than reinstalling it.
@@ -193,7 +208,23 @@ bool BrowserExtRemover::patchPreferences(const QString& path, const QString& id)
         if (kept.size() != all.size())
             json.replace(pinned, joinedArray(json, kept));
     }
-    return writeChecked(path, json.edited());
+    return json.edited();
+}
+
+std::optional<QByteArray> BrowserExtRemover::withoutFirefoxAddon(const QByteArray& text, const QString& id)
+{
+    JsonText json(text);
+    const JsonText::Span addons = json.member(json.root(), QStringLiteral("addons"));
+    const QList<JsonText::Span> all = json.elements(addons);
+    QList<JsonText::Span> kept;
+    for (const JsonText::Span& addon : all) {
+        if (!(json.isObject(addon) && json.string(json.member(addon, QStringLiteral("id"))) == id))
+            kept.append(addon);
+    }
+    if (kept.size() == all.size())
+        return std::nullopt;
+    json.replace(addons, joinedArray(json, kept));
+    return json.edited();
 }
 
 BrowserExtRemover::Result BrowserExtRemover::removeFirefox(const BrowserExt& ext)
@@ -210,23 +241,13 @@ BrowserExtRemover::Result BrowserExtRemover::removeFirefox(const BrowserExt& ext
     for (const QString& name : names) {
         const QString profile = profilesFolder + QLatin1Char('/') + name;
         const QString database = profile + QLatin1String("/extensions.json");
-        if (const std::optional<QByteArray> bytes = browserext::readSmallFile(database)) {
-            JsonText json(*bytes);
-            const JsonText::Span addons = json.member(json.root(), QStringLiteral("addons"));
-            const QList<JsonText::Span> all = json.elements(addons);
-            QList<JsonText::Span> kept;
-            for (const JsonText::Span& addon : all) {
-                if (!(json.isObject(addon) && json.string(json.member(addon, QStringLiteral("id"))) == ext.id))
-                    kept.append(addon);
-            }
-            if (kept.size() != all.size()) {
-                json.replace(addons, joinedArray(json, kept));
-                if (writeChecked(database, json.edited())) {
-                    found = true;
-                    qDebug().noquote() << "[Remover] Removed entry from Firefox extensions.json in" << profile;
-                } else {
-                    errors.append(QStringLiteral("Cannot write ") + database);
-                }
+        const std::optional<QByteArray> bytes = browserext::readSmallFile(database);
+        if (const std::optional<QByteArray> edited = bytes ? withoutFirefoxAddon(*bytes, ext.id) : std::nullopt) {
+            if (writeChecked(database, *edited)) {
+                found = true;
+                qDebug().noquote() << "[Remover] Removed entry from Firefox extensions.json in" << profile;
+            } else {
+                errors.append(QStringLiteral("Cannot write ") + database);
             }
         }
         const QString folder = profile + QLatin1String("/extensions/") + ext.id;

@@ -2,8 +2,11 @@
 
 #include "browserext.h"
 
+#include <QByteArray>
 #include <QMetaType>
 #include <QString>
+
+#include <optional>
 
 namespace platform {
 class Processes;
@@ -31,6 +34,11 @@ public:
     // False when the file cannot be read, parsed or written; a file that does not name the
     // extension is left untouched and counts as patched.
     static bool patchPreferences(const QString& path, const QString& id);
+    // The text patchPreferences writes: nullopt when `text` may not be edited (not a JSON object),
+    // `text` itself when it does not name the extension.
+    static std::optional<QByteArray> patchedPreferences(const QByteArray& text, const QString& id);
+    // An "extensions.json" without the add-on's entries; nullopt when it holds none.
+    static std::optional<QByteArray> withoutFirefoxAddon(const QByteArray& text, const QString& id);
 
 private:
     static Result removeChromium(const BrowserExt& ext);

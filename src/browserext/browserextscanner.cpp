@@ -56,25 +56,14 @@ QString fileInside(const QString& base, const QString& relative)
     return path;
 }
 
-QString messageFor(const QString& versionFolder, const QJsonObject& manifest, QString key)
+QString messageFor(const QString& versionFolder, const QJsonObject& manifest, const QString& key)
 {
-    if (key.endsWith(QLatin1String("__")))
-        key.chop(2);
-    QString locale = manifest.value(QLatin1String("default_locale")).toString();
-    if (locale.isEmpty() || !isLocaleName(locale))
-        locale = QStringLiteral("en");
     const QString locales = versionFolder + QLatin1String("/_locales/");
-    std::optional<QByteArray> bytes = browserext::readSmallFile(locales + locale + QLatin1String("/messages.json"));
+    std::optional<QByteArray> bytes = browserext::readSmallFile(
+        locales + BrowserExtScanner::manifestLocale(manifest) + QLatin1String("/messages.json"));
     if (!bytes)
         bytes = browserext::readSmallFile(locales + QLatin1String("en/messages.json"));
-    if (!bytes)
-        return QString();
-    const QJsonObject messages = browserext::parseObject(*bytes);
-    for (auto it = messages.begin(); it != messages.end(); ++it) {
-        if (it.key().compare(key, Qt::CaseInsensitive) == 0)
-            return it.value().toObject().value(QLatin1String("message")).toString();
-    }
-    return QString();
+    return bytes ? BrowserExtScanner::messageIn(*bytes, key) : QString();
 }
 
 QString firefoxIcon(const QJsonObject& addon, const QString& profile, const QString& id)
@@ -141,11 +130,32 @@ QJsonObject BrowserExtScanner::readJsonObject(const QString& path)
     return bytes ? browserext::parseObject(*bytes) : QJsonObject();
 }
 
+QString BrowserExtScanner::manifestLocale(const QJsonObject& manifest)
+{
+    const QString locale = manifest.value(QLatin1String("default_locale")).toString();
+    return isLocaleName(locale) ? locale : QStringLiteral("en");
+}
+
+QString BrowserExtScanner::messageIn(const QByteArray& messages, QString key)
+{
+    if (key.endsWith(QLatin1String("__")))
+        key.chop(2);
+    const QJsonObject all = browserext::parseObject(messages);
+    for (auto it = all.begin(); it != all.end(); ++it) {
+        if (it.key().compare(key, Qt::CaseInsensitive) == 0)
+            return it.value().toObject().value(QLatin1String("message")).toString();
+    }
+    return QString();
+}
+
 void BrowserExtScanner::run()
 {
     QList<BrowserExt> all = scanChromium(browserext::Chrome, "[scanChrome]", true);
     all += scanChromium(browserext::Edge, "[scanEdge]", false);
     all += scanFirefox();
+    // The page that asked is going away: a partial list would only be wrong.
+    if (isInterruptionRequested())
+        return;
 
     QList<BrowserExt> unique;
     QSet<QString> seen;
@@ -171,6 +181,8 @@ QList<BrowserExt> BrowserExtScanner::scanChromium(const QString& browser, const 
         }
         qDebug().noquote() << logPrefix << "scanning:" << userData;
         for (const QString& name : subFolders(userData)) {
+            if (isInterruptionRequested())
+                return found;
             const QString profile = userData + QLatin1Char('/') + name;
             if (!QFileInfo(profile + QLatin1String("/Extensions")).isDir())
                 continue;
@@ -194,6 +206,8 @@ QList<BrowserExt> BrowserExtScanner::scanChromiumProfile(const QString& profile,
                                      .toObject();
     QList<BrowserExt> found;
     for (const QString& id : subFolders(extensions)) {
+        if (isInterruptionRequested())
+            break;
         if (settings.contains(id)) {
             const QJsonObject entry = settings.value(id).toObject();
             const int location = entry.value(QLatin1String("location")).toInt(1);
@@ -257,34 +271,42 @@ QList<BrowserExt> BrowserExtScanner::scanFirefox() const
     const QString profiles = roaming + QLatin1String("/Mozilla/Firefox/Profiles");
     QList<BrowserExt> found;
     for (const QString& name : subFolders(profiles)) {
+        if (isInterruptionRequested())
+            break;
         const QString profile = profiles + QLatin1Char('/') + name;
-        const std::optional<QByteArray> bytes = browserext::readSmallFile(profile + QLatin1String("/extensions.json"));
-        if (!bytes)
+        if (const std::optional<QByteArray> bytes
+            = browserext::readSmallFile(profile + QLatin1String("/extensions.json")))
+            found += firefoxExtensions(*bytes, profile);
+    }
+    return found;
+}
+
+QList<BrowserExt> BrowserExtScanner::firefoxExtensions(const QByteArray& database, const QString& profile)
+{
+    QList<BrowserExt> found;
+    const QJsonArray addons = browserext::parseObject(database).value(QLatin1String("addons")).toArray();
+    for (const QJsonValue& value : addons) {
+        const QJsonObject addon = value.toObject();
+        const QString location = addon.value(QLatin1String("location")).toString();
+        if (addon.value(QLatin1String("type")).toString() != QLatin1String("extension")
+            || location == QLatin1String("app-system-defaults") || location == QLatin1String("app-builtin")
+            || addon.value(QLatin1String("pendingUninstall")).toBool(false)
+            || addon.value(QLatin1String("userDisabled")).toBool(false))
             continue;
-        const QJsonArray addons = browserext::parseObject(*bytes).value(QLatin1String("addons")).toArray();
-        for (const QJsonValue& value : addons) {
-            const QJsonObject addon = value.toObject();
-            const QString location = addon.value(QLatin1String("location")).toString();
-            if (addon.value(QLatin1String("type")).toString() != QLatin1String("extension")
-                || location == QLatin1String("app-system-defaults") || location == QLatin1String("app-builtin")
-                || addon.value(QLatin1String("pendingUninstall")).toBool(false)
-                || addon.value(QLatin1String("userDisabled")).toBool(false))
-                continue;
-            BrowserExt ext;
-            ext.browser = browserext::Firefox;
-            ext.id = addon.value(QLatin1String("id")).toString();
-            if (ext.id.isEmpty())
-                continue; // nothing to show it by and nothing the remover could find
-            const QJsonObject locale = addon.value(QLatin1String("defaultLocale")).toObject();
-            ext.name = locale.value(QLatin1String("name")).toString();
-            if (ext.name.isEmpty())
-                ext.name = ext.id;
-            ext.description = locale.value(QLatin1String("description")).toString();
-            ext.version = addon.value(QLatin1String("version")).toString();
-            ext.enabled = addon.value(QLatin1String("active")).toBool(true);
-            ext.iconPath = firefoxIcon(addon, profile, ext.id);
-            found.append(ext);
-        }
+        BrowserExt ext;
+        ext.browser = browserext::Firefox;
+        ext.id = addon.value(QLatin1String("id")).toString();
+        if (ext.id.isEmpty())
+            continue; // nothing to show it by and nothing the remover could find
+        const QJsonObject locale = addon.value(QLatin1String("defaultLocale")).toObject();
+        ext.name = locale.value(QLatin1String("name")).toString();
+        if (ext.name.isEmpty())
+            ext.name = ext.id;
+        ext.description = locale.value(QLatin1String("description")).toString();
+        ext.version = addon.value(QLatin1String("version")).toString();
+        ext.enabled = addon.value(QLatin1String("active")).toBool(true);
+        ext.iconPath = firefoxIcon(addon, profile, ext.id);
+        found.append(ext);
     }
     return found;
 }

@@ -8,6 +8,7 @@
 
 // Lists the extensions installed in Chrome and Edge (every channel) and Firefox from the browsers'
 // own profile files. The whole scan runs in run(), on this thread; the list leaves in scanDone.
+// An interruption request ends the scan early, and then no list is sent.
 class BrowserExtScanner final : public QThread {
     Q_OBJECT
 public:
@@ -20,6 +21,14 @@ public:
     static void sortVersionFolders(QStringList& names);
     // Reads a JSON object; anything missing, too large or malformed gives an empty object.
     static QJsonObject readJsonObject(const QString& path);
+    // The "_locales" folder whose messages name the extension: the manifest's default locale when
+    // it is a real locale name, else "en".
+    static QString manifestLocale(const QJsonObject& manifest);
+    // The message a "__MSG_key__" name stands for, looked up without regard to case in the text of
+    // a messages.json; empty when there is none.
+    static QString messageIn(const QByteArray& messages, QString key);
+    // The add-ons of one profile's "extensions.json" that the user installed and has not disabled.
+    static QList<BrowserExt> firefoxExtensions(const QByteArray& database, const QString& profile);
 
 signals:
     void scanDone(const QList<BrowserExt>& extensions);

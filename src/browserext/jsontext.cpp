@@ -1,6 +1,7 @@
 #include "jsontext.h"
 
 #include <QJsonDocument>
+#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -301,10 +302,15 @@ QString JsonText::string(Span span) const
     const QByteArray raw = m_text.mid(span.begin + 1, span.end - span.begin - 2);
     if (!raw.contains('\\'))
         return QString::fromUtf8(raw);
+    // Read as Qt's parser reads a string with escapes: a U+FEFF at the start or after a \u escape
+    // is a character like any other, not a byte-order mark to drop. Dropping it would let a
+    // crafted key stand for the extension's own.
     QString out;
     QByteArray plain;
     auto flush = [&] {
-        out += QString::fromUtf8(plain);
+        QStringDecoder utf8(
+            QStringDecoder::Utf8, QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+        out += utf8.decode(plain);
         plain.clear();
     };
     for (qsizetype i = 0; i < raw.size(); ++i) {

@@ -113,9 +113,10 @@ QWidget* CleanupPage::createHeader()
     title->setObjectName(QStringLiteral("PageTitleLabel"));
     auto* subtitle = new QLabel(tr("扫描系统垃圾文件，安全释放磁盘空间"), header);
     subtitle->setObjectName(QStringLiteral("PageSubLabel"));
+    // Some languages need two lines beside the title; the header has the height for them.
+    subtitle->setWordWrap(true);
     layout->addWidget(title);
-    layout->addWidget(subtitle);
-    layout->addStretch();
+    layout->addWidget(subtitle, 1);
     return header;
 }
 

@@ -200,6 +200,18 @@ void CleanupScanner::buildTable()
     };
 }
 
+QList<JunkCategory> CleanupScanner::categories() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_categories;
+}
+
+QStringList CleanupScanner::pathsAt(int position) const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_categories.at(position).paths;
+}
+
 void CleanupScanner::track(const QFuture<void>& future)
 {
     m_tasks.removeIf([](const QFuture<void>& task) { return task.isFinished(); });
@@ -253,7 +265,11 @@ void CleanupScanner::runScan()
     for (int i = 0; i < n; ++i) {
         if (m_stopping)
             return;
-        m_categories[i].size = measure(workFolders(m_categories[i].paths));
+        const qint64 size = measure(workFolders(pathsAt(i)));
+        {
+            QMutexLocker lock(&m_mutex);
+            m_categories[i].size = size;
+        }
         emit scanProgress(percentOf(i + 1, n));
     }
     emit scanFinished();
@@ -279,7 +295,7 @@ void CleanupScanner::runClean(const QList<int>& positions)
         const int i = positions.at(k - 1);
         if (i < 0 || i >= m_categories.size())
             continue;
-        const QStringList paths = workFolders(m_categories.at(i).paths);
+        const QStringList paths = workFolders(pathsAt(i));
         const qint64 before = measure(paths);
         for (const QString& path : paths)
             fs.emptyFolder(path.toStdWString()); // what stays is simply not counted as freed

@@ -4,13 +4,14 @@
 
 #include <QFuture>
 #include <QList>
+#include <QMutex>
 #include <QObject>
 
 #include <atomic>
 
 // Owns the fixed table of junk categories, measures them (scan) and empties the chosen ones
 // (clean). Both run on the global thread pool and report through signals emitted from there;
-// the table's sizes are written by the scan and may be read once scanFinished() has arrived.
+// the table's sizes are written by the scan, final once scanFinished() has arrived.
 class CleanupScanner final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(CleanupScanner)
@@ -23,7 +24,8 @@ public:
     // Positions in the table; positions outside it are skipped.
     void clean(const QList<int>& positions);
 
-    const QList<JunkCategory>& categories() const { return m_categories; }
+    // A copy: the page may read it (a selection changed) while a scan writes the sizes.
+    QList<JunkCategory> categories() const;
 
     // Cache folders of the Chromium-family browser whose channel folders (below Local AppData)
     // are given, and of Firefox, in the order the table lists them.
@@ -45,6 +47,9 @@ private:
     qint64 measure(const QStringList& paths) const;
     void track(const QFuture<void>& future);
 
+    QStringList pathsAt(int position) const;
+
+    mutable QMutex m_mutex; // guards the sizes in m_categories, which the scan writes
     QList<JunkCategory> m_categories;
     // The Firefox profiles folder when it is listed in place of cache folders; empty otherwise.
     QString m_firefoxProfiles;

@@ -461,8 +461,13 @@ private:
             removeRegistry(item);
             return 0;
         case ForceRemoveKind::StartupShortcut: {
+            // The platform's delete, not QFile: a Startup folder swapped for a link since the scan
+            // must not take a same-named file from wherever the link points.
             const qint64 size = QFileInfo(item.path).size();
-            QFile::remove(item.path);
+            if (!machine().fileSystem().removeFile(ws(item.path))) {
+                qWarning() << "[ForceRemove] Failed lnk:" << item.path;
+                return 0;
+            }
             qDebug() << "[ForceRemove] Deleted lnk:" << item.path;
             return size;
         }

@@ -114,7 +114,8 @@ ToolResult SandboxToolRunner::schtasks(const QStringList& arguments)
     if (!found)
         return finishedWith(1);
     QSaveFile out(file.fileName());
-    if (!out.open(QIODevice::WriteOnly) || out.write(kept) != kept.size() || !out.commit())
+    // Unbuffered, so that a full disk fails the write rather than emptying the list at commit().
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || out.write(kept) != kept.size() || !out.commit())
         return finishedWith(1);
     return finishedWith(0);
 }

@@ -42,30 +42,38 @@ bool LinkManager::loadLinks(const QString& path)
         qDebug() << "[LinkManager] 无法打开 links.json:" << file.errorString();
         return false;
     }
-
-    const QJsonDocument doc = QJsonDocument::fromJson(file.readAll());
-    if (doc.isNull() || !doc.isObject()) {
+    std::optional<Catalogue> catalogue = parseLinks(file.readAll());
+    if (!catalogue) {
         qDebug() << "[LinkManager] JSON 格式错误";
         return false;
     }
+    m_root = catalogue->root;
+    m_supportedLanguages = catalogue->languages;
+    m_fallbackLanguage = catalogue->fallback;
+    return true;
+}
 
-    m_root = doc.object();
-    if (m_root.contains(QLatin1String("metadata"))) {
-        const QJsonObject metadata = m_root.value(QLatin1String("metadata")).toObject();
-        if (metadata.contains(QLatin1String("supported_languages"))) {
-            m_supportedLanguages.clear();
-            const QJsonArray languages = metadata.value(QLatin1String("supported_languages")).toArray();
-            for (const QJsonValue& language : languages)
-                m_supportedLanguages.append(language.toString());
-        }
+std::optional<LinkManager::Catalogue> LinkManager::parseLinks(const QByteArray& json)
+{
+    const QJsonDocument doc = QJsonDocument::fromJson(json);
+    if (doc.isNull() || !doc.isObject())
+        return std::nullopt;
+
+    Catalogue catalogue;
+    catalogue.root = doc.object();
+    if (catalogue.root.contains(QLatin1String("metadata"))) {
+        const QJsonObject metadata = catalogue.root.value(QLatin1String("metadata")).toObject();
+        const QJsonArray languages = metadata.value(QLatin1String("supported_languages")).toArray();
+        for (const QJsonValue& language : languages)
+            catalogue.languages.append(language.toString());
         if (metadata.contains(QLatin1String("fallback_language")))
-            m_fallbackLanguage = metadata.value(QLatin1String("fallback_language")).toString();
+            catalogue.fallback = metadata.value(QLatin1String("fallback_language")).toString();
 
         qDebug() << "[LinkManager] 元数据加载成功";
         qDebug() << "[LinkManager] 版本:" << metadata.value(QLatin1String("version")).toString();
         qDebug() << "[LinkManager] 更新日期:" << metadata.value(QLatin1String("last_updated")).toString();
     }
-    return true;
+    return catalogue;
 }
 
 QString LinkManager::detectLanguage() const
@@ -121,27 +129,33 @@ QString LinkManager::mapLocaleName(const QString& localeName)
 
 QString LinkManager::getLink(const QString& category, const QString& key) const
 {
-    if (!m_root.contains(category)) {
+    return linkIn(m_root, category, key, m_currentLanguage, m_fallbackLanguage);
+}
+
+QString LinkManager::linkIn(const QJsonObject& root, const QString& category, const QString& key,
+    const QString& language, const QString& fallback)
+{
+    if (!root.contains(category)) {
         qDebug() << "[LinkManager] 类别不存在:" << category;
         return QString();
     }
 
-    const QJsonObject categoryObject = m_root.value(category).toObject();
+    const QJsonObject categoryObject = root.value(category).toObject();
     if (!categoryObject.contains(key)) {
         qDebug() << "[LinkManager] 键不存在:" << key << "in category:" << category;
         return QString();
     }
 
     const QJsonObject addresses = categoryObject.value(key).toObject();
-    if (addresses.contains(m_currentLanguage)) {
-        const QString url = addresses.value(m_currentLanguage).toString();
-        qDebug() << "[LinkManager] 获取链接:" << category << "/" << key << "/" << m_currentLanguage << "->" << url;
+    if (addresses.contains(language)) {
+        const QString url = addresses.value(language).toString();
+        qDebug() << "[LinkManager] 获取链接:" << category << "/" << key << "/" << language << "->" << url;
         return url;
     }
 
-    if (addresses.contains(m_fallbackLanguage)) {
-        qDebug() << "[LinkManager] 语言" << m_currentLanguage << "不存在，使用回退语言:" << m_fallbackLanguage;
-        return addresses.value(m_fallbackLanguage).toString();
+    if (addresses.contains(fallback)) {
+        qDebug() << "[LinkManager] 语言" << language << "不存在，使用回退语言:" << fallback;
+        return addresses.value(fallback).toString();
     }
 
     qDebug() << "[LinkManager] 无法找到链接:" << category << "/" << key;

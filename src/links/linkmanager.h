@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 // The program's web links per language, from the ":/data/data/links.json" resource, and the
 // current language. One instance for the whole process.
 class LinkManager final : public QObject {
@@ -27,6 +29,17 @@ public:
 
     // BrowserFailed takes the address that could not be opened as %1.
     static QString errorText(ErrorText which, const QString& url = QString());
+
+    // What a links file holds; nullopt when it is not a JSON object.
+    struct Catalogue {
+        QJsonObject root;
+        QStringList languages;
+        QString fallback = QStringLiteral("en");
+    };
+    static std::optional<Catalogue> parseLinks(const QByteArray& json);
+    // The address of `key` in `category` in `language`, else in `fallback`, else empty.
+    static QString linkIn(const QJsonObject& root, const QString& category, const QString& key, const QString& language,
+        const QString& fallback);
 
     // Tests build their own catalogue from a file of their choice.
     explicit LinkManager(const QString& linksFile, QObject* parent = nullptr);

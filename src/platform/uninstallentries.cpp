@@ -54,7 +54,7 @@ std::optional<UninstallEntry> readUninstallEntry(const Registry& registry, Hive 
     return e;
 }
 
-std::vector<UninstallEntry> readUninstallEntries(const Registry& registry)
+std::vector<UninstallEntry> readUninstallEntries(const Registry& registry, const std::atomic<bool>* stop)
 {
     std::vector<UninstallEntry> out;
     for (const UninstallRoot& root : uninstallRoots()) {
@@ -62,6 +62,8 @@ std::vector<UninstallEntry> readUninstallEntries(const Registry& registry)
         if (!names)
             continue;
         for (const std::wstring& name : *names) {
+            if (stop && stop->load())
+                return out;
             if (auto entry = readUninstallEntry(registry, root.hive, root.path + L"\\" + name))
                 out.push_back(std::move(*entry));
         }
@@ -80,6 +82,13 @@ const std::vector<std::wstring>& userAssistCountKeys()
     return keys;
 }
 
+std::optional<UserAssistValue> decodeUserAssistValue(const EnumeratedValue& v)
+{
+    if (v.status != Status::Ok || v.value.type != TypeBinary || v.value.data.size() < UserAssistMinBytes)
+        return std::nullopt;
+    return UserAssistValue { v.value.name, littleEndian64(v.value.data, UserAssistTimeOffset) };
+}
+
 std::vector<UserAssistValue> readUserAssistValues(const Registry& registry)
 {
     std::vector<UserAssistValue> out;
@@ -89,9 +98,8 @@ std::vector<UserAssistValue> readUserAssistValues(const Registry& registry)
             continue;
         // A failing index (a name or record that does not fit) is passed over, not the end.
         for (const EnumeratedValue& v : *values) {
-            if (v.status != Status::Ok || v.value.type != TypeBinary || v.value.data.size() < UserAssistMinBytes)
-                continue;
-            out.push_back({ v.value.name, littleEndian64(v.value.data, UserAssistTimeOffset) });
+            if (std::optional<UserAssistValue> decoded = decodeUserAssistValue(v))
+                out.push_back(std::move(*decoded));
         }
     }
     return out;

@@ -2,6 +2,7 @@
 
 #include "registry.h"
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -49,8 +50,9 @@ struct UninstallEntry {
 std::optional<UninstallEntry> readUninstallEntry(const Registry& registry, Hive hive, const std::wstring& keyPath);
 
 // Every readable subkey of the four roots, root by root in order; roots that do not open are
-// skipped, and a root's subkeys are taken until the first name that cannot be read.
-std::vector<UninstallEntry> readUninstallEntries(const Registry& registry);
+// skipped, and a root's subkeys are taken until the first name that cannot be read. Reading ends
+// early, with what was read so far, once `stop` (when not null) reads true.
+std::vector<UninstallEntry> readUninstallEntries(const Registry& registry, const std::atomic<bool>* stop = nullptr);
 
 // Explorer's per-user run counters ("UserAssist"): the two Count keys that hold executables.
 const std::vector<std::wstring>& userAssistCountKeys();
@@ -66,6 +68,10 @@ struct UserAssistValue {
     std::wstring encodedName; // ROT13, as stored
     std::uint64_t lastRun = 0; // FILETIME: 100 ns units since 1601
 };
+
+// One enumerated value as a usage record: nullopt unless it was read, is binary and holds at
+// least 24 bytes.
+std::optional<UserAssistValue> decodeUserAssistValue(const EnumeratedValue& value);
 
 // The usable values of both Count keys, in key and index order: enumerated successfully, binary,
 // and at least 24 bytes long.

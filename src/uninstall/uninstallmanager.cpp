@@ -152,6 +152,9 @@ UninstallManager::~UninstallManager()
     m_refresh.waitForFinished();
     m_previousRefresh.waitForFinished();
     m_batch.waitForFinished();
+    // The future's own hand-off happens inside Qt, where the thread checker cannot see it; the
+    // lock the task last wrote under makes that write visibly come before the memory goes.
+    QMutexLocker lock(&m_mutex);
 }
 
 void UninstallManager::refresh()
@@ -163,8 +166,14 @@ void UninstallManager::refresh()
     m_refresh = QtConcurrent::run([this] {
         rebuild();
         // Cleared before the signal, so a receiver may start the next refresh at once.
-        m_refreshing = false;
-        emit refreshFinished();
+        bool stopping = false;
+        {
+            QMutexLocker lock(&m_mutex);
+            m_refreshing = false;
+            stopping = m_stopping;
+        }
+        if (!stopping)
+            emit refreshFinished();
     });
 }
 
@@ -207,7 +216,10 @@ void UninstallManager::rebuild()
     const QDate day = today();
 
     QList<InstalledApp> list;
-    for (const platform::UninstallEntry& entry : platform::readUninstallEntries(platform::current().registry())) {
+    for (const platform::UninstallEntry& entry :
+        platform::readUninstallEntries(platform::current().registry(), &m_stopping)) {
+        if (m_stopping)
+            return; // the manager is going away; nobody will read a partial list
         const QString name = fromWide(entry.displayName).trimmed();
         if (name.isEmpty())
             continue;
@@ -370,16 +382,23 @@ QDate UninstallManager::fileTimeToDate(quint64 fileTime)
     return QDateTime::fromSecsSinceEpoch(secs).date();
 }
 
+std::optional<QPair<QString, QDate>> UninstallManager::usageMark(const platform::UserAssistValue& value)
+{
+    const QString exe = userAssistExecutable(rot13(fromWide(value.encodedName)));
+    const QDate day = fileTimeToDate(value.lastRun);
+    if (exe.isEmpty() || !day.isValid())
+        return std::nullopt;
+    return qMakePair(exe, day);
+}
+
 void UninstallManager::loadUsageData()
 {
     QHash<QString, QDate> usage;
     for (const platform::UserAssistValue& value : platform::readUserAssistValues(platform::current().registry())) {
-        const QString exe = userAssistExecutable(rot13(fromWide(value.encodedName)));
-        if (exe.isEmpty())
+        const std::optional<QPair<QString, QDate>> mark = usageMark(value);
+        if (!mark)
             continue;
-        const QDate day = fileTimeToDate(value.lastRun);
-        if (!day.isValid())
-            continue;
+        const auto& [exe, day] = *mark;
         auto it = usage.find(exe);
         if (it == usage.end())
             usage.insert(exe, day);
@@ -416,25 +435,11 @@ void UninstallManager::loadHistory()
         qWarning() << "[UninstallManager] History file too large, ignored:" << file.size() << "bytes";
         readable = false;
     } else if (file.open(QIODevice::ReadOnly)) {
-        const QByteArray content = file.read(MaxHistoryBytes + 1);
-        const QJsonDocument doc = QJsonDocument::fromJson(content);
-        if (doc.isArray()) {
-            const QJsonArray array = doc.array();
-            for (const QJsonValue& element : array) {
-                const QJsonObject o = element.toObject();
-                UninstalledApp app;
-                app.name = o.value(QLatin1String("name")).toString();
-                app.publisher = o.value(QLatin1String("publisher")).toString();
-                app.installLocation = o.value(QLatin1String("installLocation")).toString();
-                app.displayIcon = o.value(QLatin1String("displayIcon")).toString();
-                app.uninstalledAt
-                    = QDateTime::fromString(o.value(QLatin1String("uninstalledAt")).toString(), Qt::ISODate);
-                list << app;
-            }
+        if (std::optional<QList<UninstalledApp>> parsed = parseHistory(file.read(MaxHistoryBytes + 1))) {
+            list = std::move(*parsed);
             qDebug() << "[UninstallManager] History loaded:" << list.size() << "entries";
         } else {
-            // An empty file holds nothing worth keeping.
-            readable = content.trimmed().isEmpty();
+            readable = false;
         }
     } else if (file.exists()) {
         qWarning() << "[UninstallManager] Cannot read history:" << file.errorString();
@@ -443,6 +448,30 @@ void UninstallManager::loadHistory()
     m_keepUnreadableHistory = !readable;
     QMutexLocker lock(&m_mutex);
     m_history = list;
+}
+
+std::optional<QList<UninstalledApp>> UninstallManager::parseHistory(const QByteArray& content)
+{
+    const QJsonDocument doc = QJsonDocument::fromJson(content);
+    if (!doc.isArray()) {
+        // An empty file holds nothing worth keeping.
+        if (content.trimmed().isEmpty())
+            return QList<UninstalledApp>();
+        return std::nullopt;
+    }
+    QList<UninstalledApp> list;
+    const QJsonArray array = doc.array();
+    for (const QJsonValue& element : array) {
+        const QJsonObject o = element.toObject();
+        UninstalledApp app;
+        app.name = o.value(QLatin1String("name")).toString();
+        app.publisher = o.value(QLatin1String("publisher")).toString();
+        app.installLocation = o.value(QLatin1String("installLocation")).toString();
+        app.displayIcon = o.value(QLatin1String("displayIcon")).toString();
+        app.uninstalledAt = QDateTime::fromString(o.value(QLatin1String("uninstalledAt")).toString(), Qt::ISODate);
+        list << app;
+    }
+    return list;
 }
 
 bool UninstallManager::keepUnreadableHistory()
@@ -464,11 +493,10 @@ bool UninstallManager::keepUnreadableHistory()
     return true;
 }
 
-bool UninstallManager::saveHistory()
+QByteArray UninstallManager::historyText(const QList<UninstalledApp>& history)
 {
     QJsonArray array;
-    const QList<UninstalledApp> list = history();
-    for (const UninstalledApp& app : list) {
+    for (const UninstalledApp& app : history) {
         QJsonObject o;
         o.insert(QLatin1String("name"), app.name);
         o.insert(QLatin1String("publisher"), app.publisher);
@@ -477,16 +505,24 @@ bool UninstallManager::saveHistory()
         o.insert(QLatin1String("uninstalledAt"), app.uninstalledAt.toString(Qt::ISODate));
         array.append(o);
     }
+    return QJsonDocument(array).toJson(QJsonDocument::Compact);
+}
+
+bool UninstallManager::saveHistory()
+{
+    const QList<UninstalledApp> list = history();
     // A history this program could not read may still be the user's only record.
     if (!keepUnreadableHistory())
         return false;
     // Written beside the old file and swapped in, so a crash mid-write keeps the old history.
     QSaveFile file(historyFilePath());
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    // Unbuffered: a write that fails for space must fail here, where QSaveFile notes it, and not
+    // in the flush inside commit(), which would then put an empty file in place of the old one.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
         qWarning() << "[UninstallManager] Cannot save history:" << file.errorString();
         return false;
     }
-    file.write(QJsonDocument(array).toJson(QJsonDocument::Compact));
+    file.write(historyText(list));
     if (!file.commit()) {
         qWarning() << "[UninstallManager] Cannot save history:" << file.errorString();
         return false;

@@ -12,6 +12,11 @@
 #include <QRegularExpression>
 
 #include <atomic>
+#include <optional>
+
+namespace platform {
+struct UserAssistValue;
+}
 
 // Keeps the list of installed desktop programs, the usage marks and the uninstall history, and
 // runs uninstallers. The inventory and batches run on the global thread pool; a single uninstall
@@ -35,6 +40,11 @@ public:
     QHash<QString, QDate> usageMap() const;
 
     void loadHistory();
+    // The entries of a history file's text; nullopt when the text is not a history (an empty
+    // text is an empty one).
+    static std::optional<QList<UninstalledApp>> parseHistory(const QByteArray& content);
+    // The text saveHistory writes.
+    static QByteArray historyText(const QList<UninstalledApp>& history);
     bool saveHistory();
     void recordUninstall(const InstalledApp& app);
     QList<UninstalledApp> history() const;
@@ -60,6 +70,9 @@ public:
     static QString rot13(const QString& text);
     // The executable a decoded UserAssist name stands for, or an empty text.
     static QString userAssistExecutable(const QString& decodedName);
+    // The executable and the day of one UserAssist record; nullopt when it names no executable
+    // or no day after 1970.
+    static std::optional<QPair<QString, QDate>> usageMark(const platform::UserAssistValue& value);
     // The local day of a FILETIME, invalid before 1970.
     static QDate fileTimeToDate(quint64 fileTime);
     // A Windows path as this machine reaches it (the sandbox maps "C:\..." into its folder).

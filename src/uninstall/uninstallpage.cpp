@@ -134,6 +134,8 @@ QWidget* UninstallPage::createHeader()
     title->setObjectName(QStringLiteral("PageTitleLabel"));
     auto* subtitle = new QLabel(tr("Manage installed programs · Batch uninstall · Clean registry residues"), header);
     subtitle->setObjectName(QStringLiteral("PageSubLabel"));
+    // Some languages need two lines beside the counters; the header has the height for them.
+    subtitle->setWordWrap(true);
     titles->addWidget(title);
     titles->addWidget(subtitle);
     titles->addStretch();
@@ -223,11 +225,13 @@ QWidget* UninstallPage::createColumnHeads()
     // Same geometry as the rows, whose list sits 24 pixels in from the page's edges.
     using Row = UninstallRowWidget;
     auto* layout = new QHBoxLayout(heads);
-    Mirror::keepMarginsMirrored(
-        heads, layout, QMargins(24 + Row::NameX, 0, 24 + Row::SidePadding + Row::ButtonWidth + Row::ColumnGap, 0));
+    Mirror::keepMarginsMirrored(heads, layout,
+        QMargins(24 + Row::NameX, 0, 24 + Row::SidePadding + Row::buttonWidth(font()) + Row::ColumnGap, 0));
     layout->setSpacing(Row::ColumnGap);
     const auto head = [heads](const QString& text, int width) {
         auto* l = new QLabel(text, heads);
+        // A head longer than its column takes a second line rather than losing its end.
+        l->setWordWrap(true);
         if (width > 0)
             l->setFixedWidth(width);
         return l;

@@ -16,6 +16,7 @@ constexpr int TickSide = 16;
 constexpr int IconX = 44;
 constexpr int IconShown = 28; // the 56-pixel image at a device-pixel ratio of 2
 constexpr int ButtonHeight = 26;
+constexpr int ButtonTextMargin = 10;
 
 constexpr qint64 MiB = 1024 * 1024;
 // Sizes up to these stay quiet, then turn amber, then red.
@@ -56,10 +57,16 @@ QString UninstallRowWidget::removeKind(const QString& status)
     return QStringLiteral("quiet");
 }
 
+int UninstallRowWidget::buttonWidth(const QFont& base)
+{
+    const QFontMetrics metrics(pixelFont(base, 12, QFont::Medium));
+    return qMax(int(ButtonWidth), metrics.horizontalAdvance(tr("Remove")) + 2 * ButtonTextMargin);
+}
+
 QRect UninstallRowWidget::removeButtonRect() const
 {
-    return Mirror::place(
-        this, QRect(width() - SidePadding - ButtonWidth, (height() - ButtonHeight) / 2, ButtonWidth, ButtonHeight));
+    const int w = buttonWidth(font());
+    return Mirror::place(this, QRect(width() - SidePadding - w, (height() - ButtonHeight) / 2, w, ButtonHeight));
 }
 
 QString UninstallRowWidget::sizeColor(qint64 bytes)
@@ -210,7 +217,7 @@ void UninstallRowWidget::paintEvent(QPaintEvent*)
         p.drawText(iconRect, Qt::AlignCenter, m_app.name.left(1).toUpper());
     }
 
-    const int buttonX = width() - SidePadding - ButtonWidth;
+    const int buttonX = width() - SidePadding - buttonWidth(font());
     const int dateX = buttonX - ColumnGap - DateWidth;
     const int sizeX = dateX - ColumnGap - SizeWidth;
     const int publisherX = sizeX - ColumnGap - PublisherWidth;

@@ -25,6 +25,7 @@ public:
     static constexpr int PublisherWidth = 170;
     static constexpr int SizeWidth = 72;
     static constexpr int DateWidth = 92;
+    // The "Remove" button is this wide at least, wider where a translation needs the room.
     static constexpr int ButtonWidth = 72;
     static constexpr int ColumnGap = 12;
 
@@ -39,6 +40,8 @@ public:
     QRect removeButtonRect() const;
     bool hasIcon() const { return !m_icon.isNull(); }
 
+    // The Remove button's width in the interface's language, for the rows and the column heads.
+    static int buttonWidth(const QFont& base);
     // "amber", "red" or "quiet": the Remove button's look for a status.
     static QString removeKind(const QString& status);
     static QString sizeColor(qint64 bytes);

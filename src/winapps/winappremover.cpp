@@ -82,10 +82,13 @@ RemoveResult WinAppRemover::remove(const WinApp& app)
     return result;
 }
 
-QList<RemoveResult> WinAppRemover::removeAll(const QList<WinApp>& apps, const Progress& progress)
+QList<RemoveResult> WinAppRemover::removeAll(
+    const QList<WinApp>& apps, const Progress& progress, const std::atomic_bool* stop)
 {
     QList<RemoveResult> results;
     for (int i = 0; i < apps.size(); ++i) {
+        if (stop && stop->load())
+            break;
         if (progress)
             progress(apps.at(i), i + 1, int(apps.size()));
         results.append(remove(apps.at(i)));

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 
+#include <atomic>
 #include <functional>
 
 class ProcessRunner;
@@ -24,7 +25,9 @@ public:
 
     // Called before each app with its 1-based position.
     using Progress = std::function<void(const WinApp& app, int position, int count)>;
-    QList<RemoveResult> removeAll(const QList<WinApp>& apps, const Progress& progress = {});
+    // Once `stop` (when given) reads true, no further app is started; the results end there.
+    QList<RemoveResult> removeAll(
+        const QList<WinApp>& apps, const Progress& progress = {}, const std::atomic_bool* stop = nullptr);
     RemoveResult remove(const WinApp& app);
 
     // The text as the body of a PowerShell single-quoted string: every quote character that

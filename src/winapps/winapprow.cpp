@@ -1,5 +1,6 @@
 #include "winapprow.h"
 
+#include "widgets/elidedlabel.h"
 #include "widgets/mirror.h"
 #include "widgets/paintedcheckbox.h"
 
@@ -26,7 +27,7 @@ const char* const CellStyle = "font-size:12px; color:#475569; background:transpa
 
 QLabel* cell(const QString& text, int width, QWidget* parent)
 {
-    auto* label = new QLabel(text, parent);
+    auto* label = new ElidedLabel(text, parent);
     label->setStyleSheet(QLatin1String(CellStyle));
     label->setFixedWidth(width);
     label->setToolTip(text);
@@ -49,7 +50,7 @@ WinAppRow::WinAppRow(const WinApp& app, QWidget* parent)
     layout->setSpacing(ColumnSpacing);
 
     layout->addWidget(makeAvatar());
-    auto* name = new QLabel(app.displayName, this);
+    auto* name = new ElidedLabel(app.displayName, this);
     name->setObjectName(QStringLiteral("WinAppRowName"));
     name->setStyleSheet(QStringLiteral("font-size:13px; font-weight:500; color:#1e293b; background:transparent;"));
     name->setToolTip(app.name);

@@ -175,7 +175,8 @@ qint64 WinAppScanner::folderSize(const QString& folder)
 {
     qint64 total = 0;
     QDirIterator it(folder, QDir::Files | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
+    const QThread* thread = QThread::currentThread();
+    while (it.hasNext() && !thread->isInterruptionRequested()) {
         it.next();
         total += it.fileInfo().size();
     }
@@ -231,6 +232,8 @@ void WinAppScanner::run()
     const platform::CatalogueStatus status
         = catalogue.forEachPackage([](const platform::PackageRecord& package) { return !isHidden(package); },
             [&](const platform::PackageRecord& package) {
+                if (isInterruptionRequested())
+                    return;
                 WinApp app = makeApp(package, catalogue);
                 if (app.fullName.isEmpty())
                     return;
@@ -244,6 +247,9 @@ void WinAppScanner::run()
         qWarning("[WinApps] failing call: %s 0x%08x, %d apps kept", status.failedCall.c_str(), status.error,
             int(apps.size()));
     }
+    // The page that asked is going away: a partial list would only be wrong.
+    if (isInterruptionRequested())
+        return;
     std::stable_sort(apps.begin(), apps.end(),
         [](const WinApp& a, const WinApp& b) { return a.displayName.toLower() < b.displayName.toLower(); });
     emit scanDone(apps);

@@ -10,7 +10,8 @@ class PackageCatalogue;
 } // namespace platform
 
 // Lists the current user's packaged apps, leaving out system parts, frameworks and language or
-// media add-ons. All work, system calls and folder walks included, runs on the scanner's own thread.
+// media add-ons. All work, system calls and folder walks included, runs on the scanner's own thread;
+// an interruption request ends it at the next package or file, and then no list is sent.
 class WinAppScanner final : public QThread {
     Q_OBJECT
 public:

@@ -99,13 +99,17 @@ WinAppsPage::WinAppsPage(QWidget* parent)
 WinAppsPage::~WinAppsPage()
 {
     // The scanner is a thread of its own: it must end before its QThread object goes. A removal
-    // needs no wait: its worker holds only its own copies and a guarded pointer to the page.
+    // needs no wait: its worker holds only its own copies and a guarded pointer to the page, and
+    // ends after the app it is removing, which a closing program should not cut short.
+    *m_stopRemoval = true;
     // Every scanner still alive, including one that has delivered its list but not yet ended.
     const auto scanners = findChildren<WinAppScanner*>();
     for (WinAppScanner* scanner : scanners) {
         disconnect(scanner, nullptr, this, nullptr);
-        scanner->wait();
+        scanner->requestInterruption();
     }
+    for (WinAppScanner* scanner : scanners)
+        scanner->wait();
 }
 
 QWidget* WinAppsPage::createHeader()
@@ -451,17 +455,20 @@ void WinAppsPage::removeApps(const QList<WinApp>& apps)
     // destroyed page no longer receives.
     const QPointer<WinAppsPage> page(this);
     const std::shared_ptr<ProcessRunner> runner = m_runner;
-    m_watcher->setFuture(QtConcurrent::run([apps, runner, page] {
+    m_watcher->setFuture(QtConcurrent::run([apps, runner, page, stop = m_stopRemoval] {
         WinAppRemover remover(*runner);
-        return remover.removeAll(apps, [page](const WinApp& app, int position, int count) {
-            QMetaObject::invokeMethod(
-                qApp,
-                [page, name = app.displayName, position, count] {
-                    if (page)
-                        page->onRemovalStatus(name, position, count);
-                },
-                Qt::QueuedConnection);
-        });
+        return remover.removeAll(
+            apps,
+            [page](const WinApp& app, int position, int count) {
+                QMetaObject::invokeMethod(
+                    qApp,
+                    [page, name = app.displayName, position, count] {
+                        if (page)
+                            page->onRemovalStatus(name, position, count);
+                    },
+                    Qt::QueuedConnection);
+            },
+            stop.get());
     }));
 }
 

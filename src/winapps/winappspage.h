@@ -7,6 +7,7 @@
 #include <QList>
 #include <QWidget>
 
+#include <atomic>
 #include <memory>
 
 class ProcessRunner;
@@ -68,6 +69,8 @@ private:
     bool m_removing = false;
 
     std::shared_ptr<ProcessRunner> m_runner;
+    // Raised when the page goes: a running batch starts no further app.
+    std::shared_ptr<std::atomic_bool> m_stopRemoval = std::make_shared<std::atomic_bool>(false);
     QFutureWatcher<QList<RemoveResult>>* m_watcher = nullptr;
 
     QLabel* m_countLabel = nullptr;

@@ -20,12 +20,6 @@ const QString ChromeUserData = QStringLiteral("Google/Chrome/User Data/Default")
 // Answers each message box as it opens, in order, and keeps what it said.
 class BoxAnswers final : public QObject {
 public:
-    struct Seen {
-        QString title;
-        QString text;
-        QString informative;
-    };
-
     explicit BoxAnswers(QStringList answers)
         : m_answers(std::move(answers))
     {
@@ -33,14 +27,7 @@ public:
         m_timer.start(10);
     }
 
-    QList<Seen> seen;
-    QStringList titles() const
-    {
-        QStringList out;
-        for (const Seen& s : seen)
-            out.append(s.title);
-        return out;
-    }
+    QStringList titles, texts, informatives;
 
 private:
     void poll()
@@ -49,7 +36,7 @@ private:
         if (!box || box->property("answered").toBool())
             return;
         box->setProperty("answered", true);
-        seen.append({ box->windowTitle(), box->text(), box->informativeText() });
+        titles << box->windowTitle(), texts << box->text(), informatives << box->informativeText();
         const QString answer = m_answers.isEmpty() ? QString() : m_answers.takeFirst();
         for (QAbstractButton* button : box->buttons()) {
             if (button->text().remove(QLatin1Char('&')) == answer) {
@@ -93,10 +80,10 @@ QList<BrowserExtRow*> rowsOf(const BrowserExtPage& page)
 
 BrowserExtRow* rowNamed(const BrowserExtPage& page, const QString& name)
 {
-    const QList<BrowserExtRow*> rows = rowsOf(page);
-    const auto it
-        = std::find_if(rows.begin(), rows.end(), [&](BrowserExtRow* r) { return r->extension().name == name; });
-    return it == rows.end() ? nullptr : *it;
+    for (BrowserExtRow* row : rowsOf(page))
+        if (row->extension().name == name)
+            return row;
+    return nullptr;
 }
 
 QString labelText(const QWidget& page, const char* objectName)
@@ -151,13 +138,13 @@ private slots:
 
         BoxAnswers boxes(answers);
         rowsOf(*page).constFirst()->findChild<QPushButton*>("BrowserExtRemoveButton")->click();
-        QCOMPARE(boxes.titles(), titles);
+        QCOMPARE(boxes.titles, titles);
         // The name is shown as text, never as markup.
-        QVERIFY(boxes.seen[0].text.startsWith("确定要移除 <b>Tab &lt;b&gt;Saver&lt;/b&gt;</b>？"));
+        QVERIFY(boxes.texts[0].startsWith("确定要移除 <b>Tab &lt;b&gt;Saver&lt;/b&gt;</b>？"));
         if (titles.size() > 1)
-            QCOMPARE(boxes.seen[1].text, QStringLiteral("<b>Google Chrome</b> 有后台进程仍在运行。"));
+            QCOMPARE(boxes.texts[1], QStringLiteral("<b>Google Chrome</b> 有后台进程仍在运行。"));
         if (stubborn)
-            QCOMPARE(boxes.seen[2].text,
+            QCOMPARE(boxes.texts[2],
                 QStringLiteral("无法完全终止 Google Chrome，请手动在任务管理器中结束所有 chrome.exe 进程后重试。"));
         if (removed) {
             QTRY_COMPARE(labelText(*page, "BarStatLabel"), QStringLiteral("✓ 已移除「Tab <b>Saver</b>」"));
@@ -200,14 +187,14 @@ private slots:
 
         BoxAnswers boxes({ "Yes", "OK" });
         rowsOf(*page).constFirst()->findChild<QPushButton*>("BrowserExtRemoveButton")->click();
-        QTRY_COMPARE(boxes.titles(), (QStringList { "移除扩展", "自动移除失败" }));
+        QTRY_COMPARE(boxes.titles, (QStringList { "移除扩展", "自动移除失败" }));
         QCOMPARE(QApplication::clipboard()->text(), id);
         QCOMPARE(launches.programs,
             program.isEmpty() ? QStringList() : QStringList { program.replace("@", m.drive("C:/")) });
         QCOMPARE(launches.urls, url.isEmpty() ? QList<QUrl>() : QList<QUrl> { QUrl(url) });
-        QCOMPARE(boxes.seen[1].text, QStringLiteral("无法自动移除 <b>Stuck</b>"));
-        QVERIFY(boxes.seen[1].informative.contains("已打开 Google Chrome 扩展管理页面。"));
-        QVERIFY(boxes.seen[1].informative.contains(">" + id + "</span>"));
+        QCOMPARE(boxes.texts[1], QStringLiteral("无法自动移除 <b>Stuck</b>"));
+        QVERIFY(boxes.informatives[1].contains("已打开 Google Chrome 扩展管理页面。"));
+        QVERIFY(boxes.informatives[1].contains(">" + id + "</span>"));
     }
 
     void batchReportsExactlyTheFailedExtensions_data()
@@ -248,16 +235,16 @@ private slots:
 
         BoxAnswers boxes({ "Yes", "OK" });
         removeSelected->click();
-        QTRY_COMPARE(boxes.titles(), (QStringList { "批量移除", title }));
-        QCOMPARE(boxes.seen[0].text, QStringLiteral("确定要移除选中的 <b>3</b> 个扩展？"));
-        QCOMPARE(boxes.seen[1].text, text);
+        QTRY_COMPARE(boxes.titles, (QStringList { "批量移除", title }));
+        QCOMPARE(boxes.texts[0], QStringLiteral("确定要移除选中的 <b>3</b> 个扩展？"));
+        QCOMPARE(boxes.texts[1], text);
         // One failed name per line, in the order the scan listed them (the file system's).
         auto lines = [](const QString& html) {
             QStringList parts = html.split(QStringLiteral("<br>"));
             std::sort(parts.begin(), parts.end());
             return parts;
         };
-        QCOMPARE(lines(boxes.seen[1].informative), lines(informative));
+        QCOMPARE(lines(boxes.informatives[1]), lines(informative));
         QTRY_COMPARE(rowsOf(*page).size(), 1 + stuck.size()); // scanned again
         QVERIFY(rowNamed(*page, "Delta"));
     }

@@ -66,13 +66,12 @@ private slots:
     {
         NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QStringList, places);
-        QFETCH(QStringList, expected);
         ExtMachine m;
         for (const QString& place : places) {
             const QStringList parts = place.split(QLatin1Char('|'));
             QVERIFY(m.write(extFile(m, parts[0], parts[1], Id, "1.0_0", "manifest.json"), manifestNamed("One")));
         }
-        QCOMPARE(keys(scan()), expected);
+        QTEST(keys(scan()), "expected");
     }
 
     // Settings entries the user did not install from a store are not listed.
@@ -114,14 +113,13 @@ private slots:
     {
         NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QStringList, folders);
-        QFETCH(QString, expected);
         ExtMachine m;
         // No "version" in the manifests: the chosen folder's name shows through.
         for (const QString& folder : folders)
             QVERIFY(m.write(extFile(m, ChromeData, "Default", Id, folder, "manifest.json"), "{\"name\":\"N\"}"));
         const QList<BrowserExt> list = scan();
         QCOMPARE(list.size(), 1);
-        QCOMPARE(list[0].version, expected);
+        QTEST(list[0].version, "expected");
     }
 
     void resolvesNamesAndDescriptions_data()
@@ -153,7 +151,6 @@ private slots:
         NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QByteArray, manifest);
         QFETCH(QStringList, localeFiles);
-        QFETCH(QString, name);
         ExtMachine m;
         QVERIFY(m.write(extFile(m, ChromeData, "Default", Id, "3.1_0", "manifest.json"), manifest));
         for (const QString& entry : localeFiles) {
@@ -166,7 +163,7 @@ private slots:
             extFile(m, ChromeData, "Default", Id, "3.1_0", "x/messages.json"), "{\"name\":{\"message\":\"Escaped\"}}"));
         const QList<BrowserExt> list = scan();
         QCOMPARE(list.size(), 1);
-        QCOMPARE(list[0].name, name);
+        QTEST(list[0].name, "name");
         QCOMPARE(list[0].description, QString()); // an unresolved key is not shown
         QVERIFY(list[0].enabled);
     }
@@ -216,29 +213,25 @@ private slots:
         QTest::addColumn<bool>("listed");
         QTest::addColumn<bool>("enabled");
         QTest::addColumn<QString>("name");
-        QTest::newRow("active extension") << QByteArray(
-            "{\"id\":\"a@x\",\"type\":\"extension\",\"active\":true,\"defaultLocale\":{\"name\":\"Grabber\"}}")
-                                          << true << true << "Grabber";
-        QTest::newRow("inactive for another reason is listed disabled")
-            << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\",\"active\":false,\"defaultLocale\":{\"name\":\"G\"}}")
-            << true << false << "G";
-        QTest::newRow("no name gives the ID")
-            << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\"}") << true << true << "a@x";
-        QTest::newRow("disabled by the user")
-            << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\",\"userDisabled\":true}") << false << false << "";
-        QTest::newRow("pending uninstall")
-            << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\",\"pendingUninstall\":true}") << false << false << "";
-        QTest::newRow("theme") << QByteArray("{\"id\":\"a@x\",\"type\":\"theme\"}") << false << false << "";
-        QTest::newRow("built in") << QByteArray("{\"id\":\"a@x\",\"type\":\"extension\",\"location\":\"app-builtin\"}")
-                                  << false << false << "";
+        // The add-on's fields after its ID; "listed" false ignores the last two columns.
+        const auto row = [](const char* what, const QByteArray& fields, bool listed, bool enabled, const char* name) {
+            QTest::newRow(what) << "{\"id\":\"a@x\"," + fields + "}" << listed << enabled << QString(name);
+        };
+        row("active extension", R"("type":"extension","active":true,"defaultLocale":{"name":"Grabber"})", true, true,
+            "Grabber");
+        row("inactive for another reason is listed disabled",
+            R"("type":"extension","active":false,"defaultLocale":{"name":"G"})", true, false, "G");
+        row("no name gives the ID", R"("type":"extension")", true, true, "a@x");
+        row("disabled by the user", R"("type":"extension","userDisabled":true)", false, false, "");
+        row("pending uninstall", R"("type":"extension","pendingUninstall":true)", false, false, "");
+        row("theme", R"("type":"theme")", false, false, "");
+        row("built in", R"("type":"extension","location":"app-builtin")", false, false, "");
     }
     void readsFirefoxAddons()
     {
         NORVALE_SANDBOX_ONLY("lays out the only browser profiles the scan may find");
         QFETCH(QByteArray, addon);
         QFETCH(bool, listed);
-        QFETCH(bool, enabled);
-        QFETCH(QString, name);
         ExtMachine m;
         QVERIFY(
             m.write(m.roaming("Mozilla/Firefox/Profiles/p1.default/extensions.json"), "{\"addons\":[" + addon + "]}"));
@@ -246,8 +239,8 @@ private slots:
         QCOMPARE(list.size(), listed ? 1 : 0);
         if (listed) {
             QCOMPARE(list[0].browser, QStringLiteral("Mozilla Firefox"));
-            QCOMPARE(list[0].enabled, enabled);
-            QCOMPARE(list[0].name, name);
+            QTEST(list[0].enabled, "enabled");
+            QTEST(list[0].name, "name");
         }
     }
 
@@ -256,23 +249,19 @@ private slots:
         QTest::addColumn<QByteArray>("icons");
         QTest::addColumn<QString>("expected"); // "@" stands for the add-on's unpacked folder
         QTest::addColumn<QString>("root");
-        QTest::newRow("largest size wins")
-            << QByteArray("{\"32\":\"/i/32.png\",\"96\":\"/i/96.png\",\"64\":\"/i/64.png\"}") << "/i/96.png"
-            << "machine";
-        QTest::newRow("keys that are no sizes are never chosen")
-            << QByteArray("{\"big\":\"/i/big.png\",\"-500\":\"/i/neg.png\",\"16\":\"/i/16.png\"}") << "/i/16.png"
-            << "machine";
-        QTest::newRow("jar URL is not usable")
-            << QByteArray("{\"48\":\"/i/48.png\",\"64\":\"jar:file:///x.xpi!/i.png\"}") << ""
-            << "machine";
-        QTest::newRow("relative to the unpacked add-on") << QByteArray("{\"48\":\"icons/48.png\"}") << "@/icons/48.png"
-                                                         << "machine";
+        const auto row
+            = [](const char* what, const QByteArray& icons, const char* expected, const char* root = "machine") {
+                  QTest::newRow(what) << icons << QString(expected) << QString(root);
+              };
+        row("largest size wins", "{\"32\":\"/i/32.png\",\"96\":\"/i/96.png\",\"64\":\"/i/64.png\"}", "/i/96.png");
+        row("keys that are no sizes are never chosen",
+            "{\"big\":\"/i/big.png\",\"-500\":\"/i/neg.png\",\"16\":\"/i/16.png\"}", "/i/16.png");
+        row("jar URL is not usable", "{\"48\":\"/i/48.png\",\"64\":\"jar:file:///x.xpi!/i.png\"}", "");
+        row("relative to the unpacked add-on", "{\"48\":\"icons/48.png\"}", "@/icons/48.png");
         // On Windows the variable reads C:\Users\...: the profile path is not clean.
-        QTest::newRow("relative, below a roaming folder that is not clean")
-            << QByteArray("{\"48\":\"icons/48.png\"}") << "@/icons/48.png"
-            << "x//machine";
-        QTest::newRow("relative path that climbs") << QByteArray("{\"48\":\"../../extensions.json\"}") << ""
-                                                   << "machine";
+        row("relative, below a roaming folder that is not clean", "{\"48\":\"icons/48.png\"}", "@/icons/48.png",
+            "x//machine");
+        row("relative path that climbs", "{\"48\":\"../../extensions.json\"}", "");
     }
     void choosesTheLargestFirefoxIcon()
     {

@@ -138,19 +138,13 @@ class GatedPlatform final : public platform::ForwardingPlatform {
 public:
     explicit GatedPlatform(platform::Platform& inner)
         : ForwardingPlatform(inner)
-        , m_inner(inner)
         , files(inner.fileSystem())
     {
         platform::setCurrent(this);
     }
-    ~GatedPlatform() override { platform::setCurrent(&m_inner); }
+    ~GatedPlatform() override { platform::setCurrent(&inner()); }
 
     platform::FileSystem& fileSystem() override { return files; }
-
-private:
-    platform::Platform& m_inner;
-
-public:
     GatedFileSystem files;
 };
 

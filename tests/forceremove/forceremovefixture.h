@@ -5,6 +5,7 @@
 
 #include <support/testmachine.h>
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QList>
 #include <QMutex>
@@ -56,5 +57,9 @@ InstalledApp fooApp(const QString& installLocation = QStringLiteral("C:\\Program
 // Whether the signal came: a pool job may have sent it before the wait began.
 inline bool arrived(QSignalSpy& spy)
 {
-    return !spy.isEmpty() || spy.wait(10000);
+    const bool came = !spy.isEmpty() || spy.wait(10000);
+    // The spy records on the sending thread; a receiver connected before it has its queued call
+    // posted by then, and it runs here, so the dialog has taken the signal in.
+    QCoreApplication::processEvents();
+    return came;
 }

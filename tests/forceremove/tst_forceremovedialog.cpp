@@ -58,7 +58,7 @@ private slots:
         QTest::addColumn<QString>("badge");
         QTest::addColumn<QString>("sizeText");
         QTest::addColumn<QString>("sizeColor");
-        // kind, high risk, checked, size, enabled, badge, size text (empty: no size label), size colour
+        // An empty size text: no size label.
         const auto row = [](const char* name, int kind, bool risk, bool checked, qint64 size, bool enabled,
                              const char* badge, const char* sizeText, const char* color) {
             QTest::newRow(name) << kind << risk << checked << size << enabled << QString(badge) << QString(sizeText)
@@ -82,25 +82,18 @@ private slots:
         QFETCH(bool, highRisk);
         QFETCH(bool, checked);
         QFETCH(qint64, size);
-        QFETCH(bool, enabled);
-        QFETCH(QString, badge);
-        QFETCH(QString, sizeText);
         QFETCH(QString, sizeColor);
         const ForceRemoveItem item { static_cast<ForceRemoveKind>(kind), QStringLiteral("x"), QStringLiteral("Label"),
             size, highRisk, checked };
         ForceRemoveRowWidget row(item);
-        QCOMPARE(row.height(), 60);
         QCOMPARE(row.checkBox()->isChecked(), checked);
-        QCOMPARE(row.checkBox()->isEnabled(), enabled);
+        QTEST(row.checkBox()->isEnabled(), "enabled");
         QLabel* badgeLabel = label(&row, "FRRowBadge");
-        QCOMPARE(badgeLabel ? badgeLabel->text() : QString(), badge);
+        QTEST(badgeLabel ? badgeLabel->text() : QString(), "badge");
         QCOMPARE(label(&row, "FRRowRisk") != nullptr, highRisk);
         QLabel* sizeLabel = label(&row, "FRRowSize");
-        QCOMPARE(sizeLabel ? sizeLabel->text() : QString(), sizeText);
-        if (sizeLabel) {
-            QCOMPARE(sizeLabel->width(), 70);
-            QVERIFY(sizeLabel->styleSheet().contains(sizeColor));
-        }
+        QTEST(sizeLabel ? sizeLabel->text() : QString(), "sizeText");
+        QVERIFY(!sizeLabel || sizeLabel->styleSheet().contains(sizeColor));
     }
 
     // The dialog's totals use the same text: a removal that freed nothing reads "0 KB", not a dash.
@@ -116,8 +109,7 @@ private slots:
     void sizeTexts()
     {
         QFETCH(qint64, bytes);
-        QFETCH(QString, text);
-        QCOMPARE(ForceRemoveRowWidget::formatSize(bytes), text);
+        QTEST(ForceRemoveRowWidget::formatSize(bytes), "text");
     }
 
     void longLabelsAreCutWithTheWholeTextInTheTooltip()

@@ -67,7 +67,6 @@ void installFooApp(SandboxMachine& m, RecordedTools& tools)
     m.addService(QStringLiteral("OtherSvc"), QStringLiteral("C:\\Other\\svc.exe"), QStringLiteral("Other"));
 }
 
-// A machine, recorded tools and a scanner that uses them.
 struct Rig {
     SandboxMachine m;
     std::shared_ptr<RecordedTools> tools = std::make_shared<RecordedTools>();
@@ -178,11 +177,7 @@ public:
     {
         if (QString::fromStdWString(folder) != m_locked)
             return m_fs.removeFolder(folder);
-        platform::EmptyFolderResult partly;
-        partly.opened = true;
-        partly.removed = 1;
-        partly.failed = 1;
-        return partly;
+        return { true, 1, 1, 0 }; // one entry went, one stayed
     }
     bool removeFile(const std::wstring& path) override { return m_fs.removeFile(path); }
 

@@ -50,5 +50,9 @@ void setContractVariable(
 bool makeLink(const std::filesystem::path& target, const std::filesystem::path& link);
 // Whether the path is itself a link (a reparse point under Wine), whatever it points at.
 bool isLink(const std::filesystem::path& path);
+// Removes a tree that may hold links, loops among them included, without following any: natively
+// std::filesystem does that; Wine can neither remove a Unix link nor walk past one, so there a
+// Unix rm does it.
+void removeTree(const std::filesystem::path& folder);
 
 } // namespace contract

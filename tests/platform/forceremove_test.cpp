@@ -49,11 +49,8 @@ DWORD runAndWait(std::wstring commandLine)
 // One lane's service manager, with services made the way that lane makes them.
 class ServiceLane {
 public:
+    platform::Services& services() { return m_services; }
 #ifdef _WIN32
-    platform::Services& services()
-    {
-        return m_services;
-    }
     bool create(const std::wstring& name, const std::wstring& binary, const std::wstring& displayName)
     {
         std::wstring command = L"sc create " + name + L" binPath= \"" + binary + L"\"";
@@ -65,10 +62,6 @@ public:
 private:
     platform::WinServices m_services;
 #else
-    platform::Services& services()
-    {
-        return m_services;
-    }
     bool create(const std::wstring& name, const std::wstring& binary, const std::wstring& displayName)
     {
         const std::wstring key = std::wstring(platform::SandboxServices::servicesKey()) + L"\\" + name;

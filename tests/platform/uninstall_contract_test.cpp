@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -35,7 +37,7 @@ protected:
     void TearDown() override
     {
         for (const platform::UninstallRoot& root : platform::uninstallRoots())
-            for (const wchar_t* name : { L"Full", L"B", L"Odd" })
+            for (const wchar_t* name : { L"Full", L"B", L"Odd", L"S" })
                 reg().deleteTree(root.hive, root.path + L"\\" + Prefix + name);
         for (const std::wstring& key : platform::userAssistCountKeys())
             for (const std::wstring& name :
@@ -87,6 +89,20 @@ TEST_F(UninstallEntriesContract, ReadsEveryRootInOrderAndOddValuesAsMissing)
     EXPECT_EQ(o.displayName, full);
     EXPECT_EQ(o.publisher + o.displayVersion + o.uninstallString, L"");
     EXPECT_FALSE(o.systemComponent || o.estimatedSize || o.noRemove);
+}
+
+TEST_F(UninstallEntriesContract, StopEndsTheReadingAtTheNextEntry)
+{
+    const std::wstring root = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + Prefix;
+    reg().setString(Hive::LocalMachine, root + L"S", L"DisplayName", L"Stopped");
+    const auto ours = [](const std::vector<platform::UninstallEntry>& entries) {
+        return std::count_if(entries.begin(), entries.end(),
+            [](const platform::UninstallEntry& e) { return e.keyPath.find(L"\\" + Prefix) != std::wstring::npos; });
+    };
+    std::atomic<bool> stop { false };
+    EXPECT_EQ(ours(platform::readUninstallEntries(reg(), &stop)), 1);
+    stop = true;
+    EXPECT_EQ(platform::readUninstallEntries(reg(), &stop).size(), 0u);
 }
 
 TEST_F(UninstallEntriesContract, UserAssistKeepsOnlyRecordsThatFitTheBuffer)

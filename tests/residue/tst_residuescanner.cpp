@@ -143,7 +143,6 @@ private slots:
         NORVALE_SANDBOX_ONLY("lays out folders of known sizes in every place the scan reads");
         QFETCH(QString, where);
         QFETCH(qint64, bytes);
-        QFETCH(int, category);
         const QString base = where.startsWith("Roaming") || where.startsWith("Local")
             ? drive() + "/Users/User/AppData/" + where
             : drive() + "/" + where;
@@ -156,7 +155,7 @@ private slots:
         if (!item)
             return;
         QCOMPARE(item->size, bytes);
-        QCOMPARE(item->category, category);
+        QTEST(item->category, "category");
         QVERIFY(item->safe);
         QTEST(item->checked, "checked");
     }
@@ -178,11 +177,10 @@ private slots:
             percents << args.at(0).toInt();
         QCOMPARE(percents, QList<int>({ 5, 20, 40, 55, 70, 88, 100 }));
         QCOMPARE(progress.at(1).at(1).toString(), QString("Scanning AppData/Local..."));
-        const QList<ResidueItem> items = scanner.results();
-        QCOMPARE(items.size(), 3);
-        QCOMPARE(items.at(0).name, QString("Large"));
-        QCOMPARE(items.at(1).name, QString("Middle"));
-        QCOMPARE(items.at(2).name, QString("Small"));
+        QStringList names;
+        for (const ResidueItem& item : scanner.results())
+            names << item.name;
+        QCOMPARE(names, QStringList({ "Large", "Middle", "Small" }));
     }
 
     void searchTerms_data()
@@ -306,9 +304,7 @@ private slots:
         scanner.clean({ int(item - items.constData()), 99 });
         QVERIFY(signalled(cleaned, 10000));
         QCOMPARE(cleaned.at(0).at(0).toLongLong(), 2 * MiB);
-        QCOMPARE(progress.size(), 2);
-        QCOMPARE(progress.at(0).at(0).toInt(), 50);
-        QCOMPARE(progress.at(1).at(0).toInt(), 100);
+        QCOMPARE(progress, QList<QVariantList>({ { 50 }, { 100 } }));
         QCOMPARE(QFileInfo(m_dir->path() + "/outside/precious.doc").size(), 7 * MiB);
         QCOMPARE(QFileInfo::exists(path), folderStays);
         if (folderStays)

@@ -61,28 +61,23 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("path");
         QTest::addColumn<int>("index");
-        QTest::newRow("plain path") << "C:\\App\\app.exe"
-                                    << "C:\\App\\app.exe" << 0;
-        QTest::newRow("index after the last comma") << " \"C:\\A,B\\app.exe\" , 3 "
-                                                    << "C:\\A,B\\app.exe" << 3;
-        QTest::newRow("negative index taken as positive") << "C:\\app.dll,-101"
-                                                          << "C:\\app.dll" << 101;
-        QTest::newRow("text after the comma is part of the path") << "C:\\a,b.ico"
-                                                                  << "C:\\a,b.ico" << 0;
-        QTest::newRow("comma first is no separator") << ",2"
-                                                     << ",2" << 0;
-        QTest::newRow("empty") << ""
-                               << "" << 0;
+        const auto row = [](const char* what, const char* text, const char* path, int index) {
+            QTest::newRow(what) << QString(text) << QString(path) << index;
+        };
+        row("plain path", "C:\\App\\app.exe", "C:\\App\\app.exe", 0);
+        row("index after the last comma", " \"C:\\A,B\\app.exe\" , 3 ", "C:\\A,B\\app.exe", 3);
+        row("negative index taken as positive", "C:\\app.dll,-101", "C:\\app.dll", 101);
+        row("text after the comma is part of the path", "C:\\a,b.ico", "C:\\a,b.ico", 0);
+        row("comma first is no separator", ",2", ",2", 0);
+        row("empty", "", "", 0);
     }
 
     void parseLocation()
     {
         QFETCH(QString, text);
-        QFETCH(QString, path);
-        QFETCH(int, index);
         const ProgramIcon::Location loc = ProgramIcon::parseLocation(text);
-        QCOMPARE(loc.path, path);
-        QCOMPARE(loc.index, index);
+        QTEST(loc.path, "path");
+        QTEST(loc.index, "index");
     }
 
     // An icon, uninstaller or install folder on a share is never read: the list would contact
@@ -93,14 +88,13 @@ private slots:
         QTest::addColumn<QString>("field");
         QTest::addColumn<QString>("value"); // "<app>" stands for the program's folder as a share
         QTest::addColumn<bool>("found");
-        QTest::newRow("local icon: the control") << "displayIcon"
-                                                 << "C:\\App\\app.png,0" << true;
-        QTest::newRow("icon on a share") << "displayIcon"
-                                         << "\"<app>\\app.png\",0" << false;
-        QTest::newRow("uninstaller on a share") << "uninstallString"
-                                                << "\"<app>\\unins000.exe\" /S" << false;
-        QTest::newRow("install folder on a share") << "installLocation"
-                                                   << "<app>" << false;
+        const auto row = [](const char* what, const char* field, const char* value, bool found) {
+            QTest::newRow(what) << QString(field) << QString(value) << found;
+        };
+        row("local icon: the control", "displayIcon", "C:\\App\\app.png,0", true);
+        row("icon on a share", "displayIcon", "\"<app>\\app.png\",0", false);
+        row("uninstaller on a share", "uninstallString", "\"<app>\\unins000.exe\" /S", false);
+        row("install folder on a share", "installLocation", "<app>", false);
     }
 
     void networkPathsAreNotRead()

@@ -59,12 +59,8 @@ public:
         requests << request;
         const QString params = QString::fromStdWString(request.parameters);
         if (QString::fromStdWString(request.file).compare("msiexec.exe", Qt::CaseInsensitive) == 0
-            && !params.contains(QRegularExpression("(^| )/x", QRegularExpression::CaseInsensitiveOption))) {
-            platform::ShellExecuteResult maintenance;
-            std::tie(maintenance.started, maintenance.waitResult, maintenance.exitCode)
-                = std::tuple(true, platform::WaitObject0, 0u);
-            return maintenance;
-        }
+            && !params.contains(QRegularExpression("(^| )/x", QRegularExpression::CaseInsensitiveOption)))
+            return { true, 0, platform::WaitObject0, 0, {} }; // started, no error, ended, exit code 0
         return m_inner.launcher().shellExecuteAndWait(request, timeoutMs);
     }
 

@@ -18,9 +18,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include <algorithm>
 #include <functional>
-#include <iterator>
 #include <memory>
 #include <tuple>
 
@@ -40,17 +38,17 @@ InstalledApp app(const QString& name, const QString& publisher, qint64 size, con
 QStringList names(const QList<InstalledApp>& apps)
 {
     QStringList list;
-    std::transform(apps.begin(), apps.end(), std::back_inserter(list), [](const InstalledApp& a) { return a.name; });
+    for (const InstalledApp& a : apps)
+        list << a.name;
     return list;
 }
 
 QStringList visibleNames(const UninstallPage& page)
 {
     QStringList list;
-    for (const UninstallRowWidget* row : page.rows()) {
+    for (const UninstallRowWidget* row : page.rows())
         if (row->isVisibleTo(&page))
             list << row->app().name;
-    }
     return list;
 }
 
@@ -134,12 +132,6 @@ private slots:
     {
         QFETCH(qint64, bytes);
         QTEST(UninstallRowWidget::sizeColor(bytes), "colour");
-    }
-    void removeKinds()
-    {
-        QCOMPARE(UninstallRowWidget::removeKind("nouninstaller"), QString("amber"));
-        QCOMPARE(UninstallRowWidget::removeKind("old"), QString("red"));
-        QCOMPARE(UninstallRowWidget::removeKind("system"), QString("quiet"));
     }
 
     void filterAndSearch_data()

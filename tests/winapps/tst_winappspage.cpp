@@ -64,167 +64,155 @@ void onNextBox(std::function<void(QMessageBox*)> handle)
 class tst_WinAppsPage : public QObject {
     Q_OBJECT
 
-private slots:
-    void refreshShowsTheBannerUntilTheScanEnds();
-    void searchAndCounts();
-    void selectionDrivesTheRemoveButton();
-    void everyRemovalFailedShowsTheCriticalBox();
-    void edgeIsNeverRemovedSingly();
-    void avatarColours_data();
-    void avatarColours();
-
-private:
     QList<WinAppRow*> rows(WinAppsPage& page) { return page.findChildren<WinAppRow*>(); }
     QString count(WinAppsPage& page) { return page.findChild<QLabel*>("WinAppsCount")->text(); }
     static void click(QWidget* row) { QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(200, 10)); }
-};
+    static void show(WinAppsPage& page) { page.resize(900, 600), page.show(); }
 
-void tst_WinAppsPage::refreshShowsTheBannerUntilTheScanEnds()
-{
-    FakeCatalogue catalogue;
-    for (int i = 0; i < 6; ++i) {
-        platform::PackageRecord p;
-        p.name = L"Contoso.App" + std::to_wstring(i);
-        p.fullName = p.name + L"_1.0.0.0_x64__abc";
-        catalogue.packages_.push_back(p);
-    }
+private slots:
+    void refreshShowsTheBannerUntilTheScanEnds()
     {
-        // Closed while its scan still runs: the page waits for the thread instead of crashing.
-        WinAppsPage closing;
-        closing.refresh();
+        FakeCatalogue catalogue;
+        for (int i = 0; i < 6; ++i) {
+            platform::PackageRecord p;
+            p.name = L"Contoso.App" + std::to_wstring(i);
+            p.fullName = p.name + L"_1.0.0.0_x64__abc";
+            catalogue.packages_.push_back(p);
+        }
+        {
+            // Closed while its scan still runs: the page waits for the thread instead of crashing.
+            WinAppsPage closing;
+            closing.refresh();
+        }
+
+        WinAppsPage page;
+        page.refresh();
+        auto* banner = page.findChild<QWidget*>("WinAppsBanner");
+        QVERIFY(banner->isVisibleTo(&page));
+        QCOMPARE(count(page), QStringLiteral("正在扫描..."));
+        QVERIFY(!page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
+        QTRY_VERIFY(!banner->isVisibleTo(&page));
+        QCOMPARE(page.findChild<QLabel*>("WinAppsBannerText")->text(),
+            QStringLiteral("正在扫描 Windows 应用... 已找到 5 个"));
+        QCOMPARE(count(page), QStringLiteral("共 6 个应用"));
+        QCOMPARE(rows(page).size(), 6);
+        QVERIFY(page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
     }
 
-    WinAppsPage page;
-    page.refresh();
-    auto* banner = page.findChild<QWidget*>("WinAppsBanner");
-    QVERIFY(banner->isVisibleTo(&page));
-    QCOMPARE(count(page), QStringLiteral("正在扫描..."));
-    QVERIFY(!page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
-    QTRY_VERIFY(!banner->isVisibleTo(&page));
-    QCOMPARE(
-        page.findChild<QLabel*>("WinAppsBannerText")->text(), QStringLiteral("正在扫描 Windows 应用... 已找到 5 个"));
-    QCOMPARE(count(page), QStringLiteral("共 6 个应用"));
-    QCOMPARE(rows(page).size(), 6);
-    QVERIFY(page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
-}
+    void searchAndCounts()
+    {
+        WinAppsPage page;
+        page.onScanDone({ app("Calculator", "Microsoft Corporation"), app("MicroPad", "Fabrikam"),
+            app("Spotify", "Spotify AB"), app("Terminal", "MICROSOFT CORPORATION") });
+        QCOMPARE(count(page), QStringLiteral("共 4 个应用"));
 
-void tst_WinAppsPage::searchAndCounts()
-{
-    WinAppsPage page;
-    page.onScanDone({ app("Calculator", "Microsoft Corporation"), app("MicroPad", "Fabrikam"),
-        app("Spotify", "Spotify AB"), app("Terminal", "MICROSOFT CORPORATION") });
-    QCOMPARE(count(page), QStringLiteral("共 4 个应用"));
+        auto* search = page.findChild<QLineEdit*>("WinAppsSearch");
+        // Name or publisher, any letter case, the search text trimmed.
+        QTest::keyClicks(search, QStringLiteral("  micro "));
+        QCOMPARE(rows(page).size(), 3);
+        QCOMPARE(count(page), QStringLiteral("显示 3 / 4 个应用"));
+        search->setText(QStringLiteral("spotify ab"));
+        QCOMPARE(rows(page).size(), 1);
+        search->setText(QStringLiteral("nothing like it"));
+        QCOMPARE(count(page), QStringLiteral("显示 0 / 4 个应用"));
+        search->clear();
+        QCOMPARE(rows(page).size(), 4);
+        QCOMPARE(count(page), QStringLiteral("共 4 个应用"));
+    }
 
-    auto* search = page.findChild<QLineEdit*>("WinAppsSearch");
-    // Name or publisher, any letter case, the search text trimmed.
-    QTest::keyClicks(search, QStringLiteral("  micro "));
-    QCOMPARE(rows(page).size(), 3);
-    QCOMPARE(count(page), QStringLiteral("显示 3 / 4 个应用"));
-    search->setText(QStringLiteral("spotify ab"));
-    QCOMPARE(rows(page).size(), 1);
-    search->setText(QStringLiteral("nothing like it"));
-    QCOMPARE(count(page), QStringLiteral("显示 0 / 4 个应用"));
-    search->clear();
-    QCOMPARE(rows(page).size(), 4);
-    QCOMPARE(count(page), QStringLiteral("共 4 个应用"));
-}
+    void selectionDrivesTheRemoveButton()
+    {
+        WinAppsPage page;
+        show(page);
+        page.onScanDone({ app("A", "P"), app("B", "P"), app("C", "P") });
+        auto* remove = page.findChild<QPushButton*>("WinAppsRemove");
+        QCOMPARE(remove->text(), QStringLiteral("🗑  移除所选"));
+        QVERIFY(!remove->isEnabled());
 
-void tst_WinAppsPage::selectionDrivesTheRemoveButton()
-{
-    WinAppsPage page;
-    page.resize(900, 600);
-    page.show();
-    page.onScanDone({ app("A", "P"), app("B", "P"), app("C", "P") });
-    auto* remove = page.findChild<QPushButton*>("WinAppsRemove");
-    QCOMPARE(remove->text(), QStringLiteral("🗑  移除所选"));
-    QVERIFY(!remove->isEnabled());
+        const auto list = rows(page);
+        click(list[0]);
+        click(list[2]);
+        QCOMPARE(remove->text(), QStringLiteral("🗑  移除所选 (2)"));
+        QVERIFY(remove->isEnabled());
+        click(list[0]);
+        QCOMPARE(remove->text(), QStringLiteral("🗑  移除所选 (1)"));
+    }
 
-    const auto list = rows(page);
-    click(list[0]);
-    click(list[2]);
-    QCOMPARE(remove->text(), QStringLiteral("🗑  移除所选 (2)"));
-    QVERIFY(remove->isEnabled());
-    click(list[0]);
-    QCOMPARE(remove->text(), QStringLiteral("🗑  移除所选 (1)"));
-}
+    void everyRemovalFailedShowsTheCriticalBox()
+    {
+        WinAppsPage page;
+        show(page);
+        auto runner = std::make_shared<FailingRunner>();
+        page.setProcessRunner(runner);
+        page.onScanDone({ app("Notes", "P"), app("Paint <b>", "P"), app("Zune", "P") });
+        const auto list = rows(page);
+        click(list[0]);
+        click(list[1]);
 
-void tst_WinAppsPage::everyRemovalFailedShowsTheCriticalBox()
-{
-    WinAppsPage page;
-    page.resize(900, 600);
-    page.show();
-    auto runner = std::make_shared<FailingRunner>();
-    page.setProcessRunner(runner);
-    page.onScanDone({ app("Notes", "P"), app("Paint <b>", "P"), app("Zune", "P") });
-    const auto list = rows(page);
-    click(list[0]);
-    click(list[1]);
-
-    QString question;
-    onNextBox([&](QMessageBox* box) {
-        question = box->text();
-        QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
-        box->button(QMessageBox::Yes)->click();
-        onNextBox([&](QMessageBox* result) {
-            QCOMPARE(result->icon(), QMessageBox::Critical);
-            QCOMPARE(result->windowTitle(), QStringLiteral("移除失败"));
-            QCOMPARE(result->text(), QStringLiteral("所有应用移除失败。"));
-            // Both apps, in row order, their names and the tool's text escaped for rich text.
-            QVERIFY2(result->informativeText().startsWith(
-                         QStringLiteral("失败详情：<br>• Notes：0x80073CFA &lt;denied&gt;<br>• Paint "
-                                        "&lt;b&gt;：0x80073CFA &lt;denied&gt;<br><br>")),
-                qPrintable(result->informativeText()));
-            result->accept();
+        QString question;
+        onNextBox([&](QMessageBox* box) {
+            question = box->text();
+            QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
+            box->button(QMessageBox::Yes)->click();
+            onNextBox([&](QMessageBox* result) {
+                QCOMPARE(result->icon(), QMessageBox::Critical);
+                QCOMPARE(result->windowTitle(), QStringLiteral("移除失败"));
+                QCOMPARE(result->text(), QStringLiteral("所有应用移除失败。"));
+                // Both apps, in row order, their names and the tool's text escaped for rich text.
+                QVERIFY2(result->informativeText().startsWith(
+                             QStringLiteral("失败详情：<br>• Notes：0x80073CFA &lt;denied&gt;<br>• Paint "
+                                            "&lt;b&gt;：0x80073CFA &lt;denied&gt;<br><br>")),
+                    qPrintable(result->informativeText()));
+                result->accept();
+            });
         });
-    });
-    page.findChild<QPushButton*>("WinAppsRemove")->click();
-    QCOMPARE(question, QStringLiteral("确定移除选中的 2 个应用？\n此操作不可撤销。"));
-    QTRY_VERIFY_WITH_TIMEOUT(page.findChild<QWidget*>("WinAppsOverlay")->isHidden(), 10000);
-    QTRY_VERIFY(page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
-    // Per app: two removals, the provisioned copy and the check; no winget identifier.
-    QCOMPARE(runner->runs, 8);
-}
+        page.findChild<QPushButton*>("WinAppsRemove")->click();
+        QCOMPARE(question, QStringLiteral("确定移除选中的 2 个应用？\n此操作不可撤销。"));
+        QTRY_VERIFY_WITH_TIMEOUT(page.findChild<QWidget*>("WinAppsOverlay")->isHidden(), 10000);
+        QTRY_VERIFY(page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
+        // Per app: two removals, the provisioned copy and the check; no winget identifier.
+        QCOMPARE(runner->runs, 8);
+    }
 
-void tst_WinAppsPage::edgeIsNeverRemovedSingly()
-{
-    WinAppsPage page;
-    page.resize(900, 600);
-    page.show();
-    auto runner = std::make_shared<FailingRunner>();
-    page.setProcessRunner(runner);
-    page.onScanDone({ app("Microsoft Edge", "Microsoft", "microsoft.microsoftedge.Stable") });
+    void edgeIsNeverRemovedSingly()
+    {
+        WinAppsPage page;
+        show(page);
+        auto runner = std::make_shared<FailingRunner>();
+        page.setProcessRunner(runner);
+        page.onScanDone({ app("Microsoft Edge", "Microsoft", "microsoft.microsoftedge.Stable") });
 
-    QString title;
-    onNextBox([&](QMessageBox* box) {
-        title = box->windowTitle();
-        box->accept();
-    });
-    rows(page).first()->findChild<QPushButton*>("WinAppRowRemove")->click();
-    QCOMPARE(title, QStringLiteral("无法卸载 Microsoft Edge"));
-    QTest::qWait(50);
-    QCOMPARE(runner->runs, 0);
-    QVERIFY(page.findChild<QWidget*>("WinAppsOverlay")->isHidden());
-}
+        QString title;
+        onNextBox([&](QMessageBox* box) {
+            title = box->windowTitle();
+            box->accept();
+        });
+        rows(page).first()->findChild<QPushButton*>("WinAppRowRemove")->click();
+        QCOMPARE(title, QStringLiteral("无法卸载 Microsoft Edge"));
+        QTest::qWait(50);
+        QCOMPARE(runner->runs, 0);
+        QVERIFY(page.findChild<QWidget*>("WinAppsOverlay")->isHidden());
+    }
 
-void tst_WinAppsPage::avatarColours_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("colour");
-    const auto row = [](const char* tag, const QString& name, const char* colour) {
-        QTest::newRow(tag) << name << QString::fromLatin1(colour);
-    };
-    row("empty name: first colour", "", "#0ea5e9");
-    row("A is 0x41: index 1", "Alarms", "#8b5cf6");
-    row("H is 0x48: wraps to 0", "Help", "#0ea5e9");
-    row("a Chinese first character", QStringLiteral("应用商店"), "#ef4444");
-}
+    void avatarColours_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("colour");
+        const auto row = [](const char* tag, const QString& name, const char* colour) {
+            QTest::newRow(tag) << name << QString::fromLatin1(colour);
+        };
+        row("empty name: first colour", "", "#0ea5e9");
+        row("A is 0x41: index 1", "Alarms", "#8b5cf6");
+        row("H is 0x48: wraps to 0", "Help", "#0ea5e9");
+        row("a Chinese first character", QStringLiteral("应用商店"), "#ef4444");
+    }
 
-void tst_WinAppsPage::avatarColours()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, colour);
-    QCOMPARE(WinAppRow::avatarColor(name).name(), colour);
-}
+    void avatarColours()
+    {
+        QFETCH(QString, name);
+        QTEST(WinAppRow::avatarColor(name).name(), "colour");
+    }
+};
 
 QTEST_MAIN(tst_WinAppsPage)
 #include "tst_winappspage.moc"

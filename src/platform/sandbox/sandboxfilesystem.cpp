@@ -9,6 +9,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace platform {
@@ -70,6 +71,35 @@ int openSubfolder(int parentFd, const char* name)
     return fd;
 }
 
+// Which mount an open folder belongs to. A folder bind-mounted from the same file system keeps
+// the device number, so the kernel's id of the mount is compared as well wherever it is given:
+// without it a mount of some outside folder inside a tree would be entered and emptied.
+struct MountId {
+    dev_t device = 0;
+    std::uint64_t mount = 0; // 0 when the kernel does not say
+
+    bool operator==(const MountId& other) const
+    {
+        return device == other.device && (mount == 0 || other.mount == 0 || mount == other.mount);
+    }
+    bool operator!=(const MountId& other) const { return !(*this == other); }
+};
+
+bool mountOf(int fd, MountId& id)
+{
+    struct statx sx;
+    if (::statx(fd, "", AT_EMPTY_PATH, STATX_MNT_ID, &sx) == 0) {
+        id.device = makedev(sx.stx_dev_major, sx.stx_dev_minor);
+        id.mount = (sx.stx_mask & STATX_MNT_ID) ? sx.stx_mnt_id : 0;
+        return true;
+    }
+    struct stat st;
+    if (::fstat(fd, &st) != 0)
+        return false;
+    id = { st.st_dev, 0 };
+    return true;
+}
+
 // The type of an entry without following it; the listing's type when the file system gives one.
 unsigned char entryType(int dirFd, const Entry& e)
 {
@@ -89,7 +119,7 @@ unsigned char entryType(int dirFd, const Entry& e)
 
 // The scan's hot path: files are measured straight from the listing buffer, and only the names
 // of sub-folders are copied out before descending.
-std::int64_t sizeBelow(int dirFd, dev_t device, int depth)
+std::int64_t sizeBelow(int dirFd, const MountId& device, int depth)
 {
     static thread_local std::vector<char> buffer(ListingBufferBytes);
     std::int64_t total = 0;
@@ -129,8 +159,8 @@ std::int64_t sizeBelow(int dirFd, dev_t device, int depth)
         UniqueFd fd(openSubfolder(dirFd, name.c_str()));
         if (!fd.isValid())
             continue;
-        struct stat st;
-        if (::fstat(fd.get(), &st) != 0 || st.st_dev != device)
+        MountId id;
+        if (!mountOf(fd.get(), id) || id != device)
             continue;
         total += sizeBelow(fd.get(), device, depth + 1);
     }
@@ -163,7 +193,7 @@ bool isReadOnly(int dirFd, const char* name)
     return ::fstatat(dirFd, name, &st, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(st.st_mode) && !(st.st_mode & S_IWUSR);
 }
 
-void emptyBelow(int dirFd, dev_t device, int depth, EmptyFolderResult& result)
+void emptyBelow(int dirFd, const MountId& device, int depth, EmptyFolderResult& result)
 {
     std::vector<Entry> entries;
     if (!readEntries(dirFd, entries)) {
@@ -190,12 +220,12 @@ void emptyBelow(int dirFd, dev_t device, int depth, EmptyFolderResult& result)
                 noteFailure(result, errno);
             continue;
         }
-        struct stat st;
-        if (::fstat(fd.get(), &st) != 0) {
+        MountId id;
+        if (!mountOf(fd.get(), id)) {
             noteFailure(result, errno);
             continue;
         }
-        if (st.st_dev != device) {
+        if (id != device) {
             // A mount point: neither entered nor removed.
             noteFailure(result, EXDEV);
             continue;
@@ -235,9 +265,10 @@ int SandboxFileSystem::openFolder(const std::wstring& path) const
     }
 
     // The root itself is trusted as given (it may sit below a linked /tmp); below it every
-    // component is opened without following links.
+    // component is opened without following links, and without stepping onto another mount.
     UniqueFd fd(::open(m_root.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-    if (!fd.isValid())
+    MountId rootMount;
+    if (!fd.isValid() || !mountOf(fd.get(), rootMount))
         return -1;
     std::size_t pos = 0;
     while (pos <= rest.size()) {
@@ -251,7 +282,8 @@ int SandboxFileSystem::openFolder(const std::wstring& path) const
         if (part == "..")
             return -1;
         fd.reset(::openat(fd.get(), part.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-        if (!fd.isValid())
+        MountId id;
+        if (!fd.isValid() || !mountOf(fd.get(), id) || id != rootMount)
             return -1;
     }
     // Reopen the last one for reading; "." of a descriptor opened without following is that folder.
@@ -283,21 +315,21 @@ std::optional<std::vector<std::wstring>> SandboxFileSystem::subFolders(const std
 std::int64_t SandboxFileSystem::folderSize(const std::wstring& folder)
 {
     UniqueFd fd(openFolder(folder));
-    struct stat st;
-    if (!fd.isValid() || ::fstat(fd.get(), &st) != 0)
+    MountId id;
+    if (!fd.isValid() || !mountOf(fd.get(), id))
         return 0;
-    return sizeBelow(fd.get(), st.st_dev, 0);
+    return sizeBelow(fd.get(), id, 0);
 }
 
 EmptyFolderResult SandboxFileSystem::emptyFolder(const std::wstring& folder)
 {
     EmptyFolderResult result;
     UniqueFd fd(openFolder(folder));
-    struct stat st;
-    if (!fd.isValid() || ::fstat(fd.get(), &st) != 0)
+    MountId id;
+    if (!fd.isValid() || !mountOf(fd.get(), id))
         return result;
     result.opened = true;
-    emptyBelow(fd.get(), st.st_dev, 0, result);
+    emptyBelow(fd.get(), id, 0, result);
     return result;
 }
 
@@ -312,7 +344,7 @@ struct Budget {
 };
 
 // sizeBelow with a file budget; false once the budget ran out, which ends the whole walk.
-bool measureBelow(int dirFd, dev_t device, int depth, Budget& budget)
+bool measureBelow(int dirFd, const MountId& device, int depth, Budget& budget)
 {
     std::vector<Entry> entries;
     if (!readEntries(dirFd, entries))
@@ -338,8 +370,8 @@ bool measureBelow(int dirFd, dev_t device, int depth, Budget& budget)
         if (budget.exhausted())
             return false;
         UniqueFd fd(openSubfolder(dirFd, e->name.c_str()));
-        struct stat st;
-        if (!fd.isValid() || ::fstat(fd.get(), &st) != 0 || st.st_dev != device)
+        MountId id;
+        if (!fd.isValid() || !mountOf(fd.get(), id) || id != device)
             continue;
         if (!measureBelow(fd.get(), device, depth + 1, budget))
             return false;
@@ -354,10 +386,10 @@ FolderMeasure SandboxFileSystem::measureFolder(
 {
     Budget budget { maxFiles, stop, {} };
     UniqueFd fd(openFolder(folder));
-    struct stat st;
-    if (!fd.isValid() || ::fstat(fd.get(), &st) != 0)
+    MountId id;
+    if (!fd.isValid() || !mountOf(fd.get(), id))
         return budget.measure;
-    budget.measure.complete = measureBelow(fd.get(), st.st_dev, 0, budget);
+    budget.measure.complete = measureBelow(fd.get(), id, 0, budget);
     return budget.measure;
 }
 
@@ -378,14 +410,13 @@ EmptyFolderResult SandboxFileSystem::removeFolder(const std::wstring& folder)
     if (!parent.isValid())
         return result;
     UniqueFd fd(openSubfolder(parent.get(), name.c_str()));
-    struct stat st;
-    if (!fd.isValid() || ::fstat(fd.get(), &st) != 0)
+    MountId id, parentId;
+    if (!fd.isValid() || !mountOf(fd.get(), id))
         return result;
-    struct stat parentStat;
-    if (::fstat(parent.get(), &parentStat) != 0 || parentStat.st_dev != st.st_dev)
+    if (!mountOf(parent.get(), parentId) || parentId != id)
         return result; // a mount point is not ours to remove
     result.opened = true;
-    emptyBelow(fd.get(), st.st_dev, 0, result);
+    emptyBelow(fd.get(), id, 0, result);
     fd.reset();
     if (result.failed == 0)
         unlinkEntry(parent.get(), name.c_str(), AT_REMOVEDIR, result);

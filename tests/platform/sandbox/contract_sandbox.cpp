@@ -96,6 +96,12 @@ bool makeLink(const std::filesystem::path& target, const std::filesystem::path& 
     return !error;
 }
 
+void removeTree(const std::filesystem::path& folder)
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+}
+
 bool isLink(const std::filesystem::path& path)
 {
     return std::filesystem::is_symlink(std::filesystem::symlink_status(path));

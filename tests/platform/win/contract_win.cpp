@@ -126,4 +126,26 @@ bool makeLink(const std::filesystem::path& target, const std::filesystem::path& 
     return isLink(link);
 }
 
+void removeTree(const std::filesystem::path& folder)
+{
+    // Nothing to wait for otherwise: a late rm would take what the caller makes there next.
+    if (::GetFileAttributesW(folder.wstring().c_str()) == INVALID_FILE_ATTRIBUTES)
+        return;
+    const std::string unix = unixPath(folder);
+    if (unix.empty() || unix.find(' ') != std::string::npos)
+        return;
+    std::wstring command = L"Z:\\bin\\rm -rf " + std::filesystem::path(unix).wstring();
+    STARTUPINFOW startup {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process {};
+    if (!::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+        return;
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    // As with makeLink, the Unix process cannot be waited on: the folder is watched instead.
+    for (int waitedMs = 0;
+         waitedMs < 10000 && ::GetFileAttributesW(folder.wstring().c_str()) != INVALID_FILE_ATTRIBUTES; waitedMs += 20)
+        ::Sleep(20);
+}
+
 } // namespace contract

@@ -36,25 +36,8 @@ const wchar_t* const UninstallPaths[] = {
     L"SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall",
 };
 
-DWORD runAndWait(std::wstring commandLine)
+HANDLE start(std::wstring commandLine)
 {
-    STARTUPINFOW startup {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process {};
-    if (!::CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr, nullptr,
-            &startup, &process))
-        return ~0u;
-    ::WaitForSingleObject(process.hProcess, 30000);
-    DWORD code = ~0u;
-    ::GetExitCodeProcess(process.hProcess, &code);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
-    return code;
-}
-
-HANDLE start(const std::wstring& exe)
-{
-    std::wstring commandLine = L"\"" + exe + L"\"";
     STARTUPINFOW startup {};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process {};
@@ -63,6 +46,17 @@ HANDLE start(const std::wstring& exe)
         return nullptr;
     ::CloseHandle(process.hThread);
     return process.hProcess;
+}
+
+DWORD runAndWait(const std::wstring& commandLine)
+{
+    const HANDLE process = start(commandLine);
+    DWORD code = ~0u;
+    if (process && ::WaitForSingleObject(process, 30000) == WAIT_OBJECT_0)
+        ::GetExitCodeProcess(process, &code);
+    if (process)
+        ::CloseHandle(process);
+    return code;
 }
 
 bool running(HANDLE process)
@@ -119,8 +113,8 @@ protected:
                       + (m_bystander / "bystander.exe").wstring() + L"\""),
             0u);
 
-        m_program = start((m_install / "bin/nfdemo.exe").wstring());
-        m_other = start((m_bystander / "bystander.exe").wstring());
+        m_program = start(L"\"" + (m_install / "bin/nfdemo.exe").wstring() + L"\"");
+        m_other = start(L"\"" + (m_bystander / "bystander.exe").wstring() + L"\"");
         ASSERT_TRUE(running(m_program) && running(m_other));
     }
 
