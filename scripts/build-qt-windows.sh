@@ -24,7 +24,10 @@ srcver="$(dpkg-query -W -f='${source:Version}' qt6-base-dev 2>/dev/null)" ||
     die "qt6-base-dev is not installed (scripts/setup.sh installs it)"
 upver="${srcver#*:}"
 upver="${upver%%[+~-]*}"
-key="$({ cat "$script"; echo "$srcver"; } | sha256sum | cut -c1-12)"
+# Patches to Qt's sources, applied in name order; they are part of the recipe, hence of the key.
+patches=("$(dirname "$script")"/qt-windows-patches/*.patch)
+[ -e "${patches[0]}" ] || patches=()
+key="$({ cat "$script" "${patches[@]}"; echo "$srcver"; } | sha256sum | cut -c1-12)"
 cache="${XDG_CACHE_HOME:-$HOME/.cache}/norvale"
 prefix="$cache/qt-$upver-$key"
 marker="$prefix/.norvale-complete"
@@ -47,7 +50,7 @@ if [ -f "$marker" ]; then
     exit 0
 fi
 
-for tool in apt-get dpkg-source cmake ninja x86_64-w64-mingw32-g++-posix x86_64-w64-mingw32-gcc-posix; do
+for tool in apt-get dpkg-source patch cmake ninja x86_64-w64-mingw32-g++-posix x86_64-w64-mingw32-gcc-posix; do
     command -v "$tool" >/dev/null || die "$tool is missing (scripts/setup.sh installs it)"
 done
 hostcmake=/usr/lib/x86_64-linux-gnu/cmake
@@ -59,7 +62,7 @@ say "building Qt $srcver for mingw-w64 into $prefix"
 
 # --- sources --------------------------------------------------------------------------------
 src="$work/src"
-if [ "$(cat "$work/sources.done" 2>/dev/null)" != "$srcver" ]; then
+if [ "$(cat "$work/sources.done" 2>/dev/null)" != "$srcver $key" ]; then
     rm -rf "$work/apt" "$work/download" "$src"
     mkdir -p "$work/apt/lists/partial" "$work/apt/cache/archives/partial" "$work/apt/parts" "$work/download"
 
@@ -102,8 +105,12 @@ if [ "$(cat "$work/sources.done" 2>/dev/null)" != "$srcver" ]; then
     dsc="$(ls "$work/download"/qt6-base_*.dsc)"
     say "unpacking $(basename "$dsc")"
     dpkg-source --no-check -x "$dsc" "$src" >>"$work/apt.log" 2>&1 || { cat "$work/apt.log" >&2; die "dpkg-source failed"; }
+    for patch in "${patches[@]}"; do
+        say "applying $(basename "$patch")"
+        patch -d "$src" -p1 --forward --quiet <"$patch" || die "$(basename "$patch") does not apply"
+    done
     rm -rf "$work/download" "$work/apt"
-    echo "$srcver" >"$work/sources.done"
+    echo "$srcver $key" >"$work/sources.done"
 fi
 
 # --- configure ------------------------------------------------------------------------------

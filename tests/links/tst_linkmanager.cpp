@@ -12,6 +12,7 @@ namespace {
 const QStringList AllCodes = { "en", "zh_CN", "zh_TW", "fr", "de", "ja", "es", "ko", "nl", "pt", "it", "ar", "tr" };
 
 // A known system locale, pinned before anything reads it: with nothing stored, detection gives "de".
+// (Under Wine the test registration pins it, as Windows reads it before main.)
 const bool LocalePinned = qputenv("LC_ALL", "de_DE.UTF-8");
 
 QSettings settingsStore()

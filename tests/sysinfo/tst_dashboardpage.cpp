@@ -60,6 +60,8 @@ private slots:
         QFETCH(bool, versionKey);
         QFETCH(quint64, uptimeMs);
         QFETCH(SystemMetrics, metrics);
+        if (!versionKey)
+            NORVALE_SANDBOX_ONLY("needs a Windows without its version values");
         FakePlatform pf;
         pf.ticks = uptimeMs;
         platform::Registry& reg = pf.registry();
