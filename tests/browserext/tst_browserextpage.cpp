@@ -2,6 +2,7 @@
 #include "browserext/browserextrow.h"
 #include "browserext/browsergroupwidget.h"
 #include "extmachine.h"
+#include "support/labeltext.h"
 #include "support/modalscript.h"
 
 #include <QApplication>
@@ -48,12 +49,6 @@ BrowserExtRow* rowNamed(const BrowserExtPage& page, const QString& name)
         if (row->extension().name == name)
             return row;
     return nullptr;
-}
-
-QString labelText(const QWidget& page, const char* objectName)
-{
-    const auto* label = page.findChild<QLabel*>(QLatin1String(objectName));
-    return label ? label->text() : QString();
 }
 
 } // namespace

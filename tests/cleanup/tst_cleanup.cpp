@@ -4,6 +4,7 @@
 #include "platform/forwardingplatform.h"
 #include "support/currentmachine.h"
 #include "support/forwardingfilesystem.h"
+#include "support/labeltext.h"
 
 #include <QDir>
 #include <QLabel>
@@ -136,7 +137,6 @@ bool setUndeletable(const QString& folder, bool on)
 
 class tst_Cleanup : public QObject {
     Q_OBJECT
-    static QString text(QWidget& w, const char* name) { return w.findChild<QLabel*>(QLatin1String(name))->text(); }
     static QPushButton* button(QWidget& w, const char* name) { return w.findChild<QPushButton*>(QLatin1String(name)); }
     static bool progressShown(QWidget& w) { return !w.findChild<QProgressBar*>("CleanupProgress")->isHidden(); }
 private slots:
@@ -391,9 +391,9 @@ private slots:
         CleanupPage page(nullptr);
         QSignalSpy finished(page.scanner(), &CleanupScanner::scanFinished);
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
-        QTRY_COMPARE(text(page, "CleanupTotalLabel"), texts.at(0));
-        QCOMPARE(text(page, "CleanupStatusDetail"), "发现 11 类可清理文件，共 " + texts.at(1));
-        QCOMPARE(text(page, "CleanupSummaryLine"), "已选 8 类  ·  预计释放 " + texts.at(2));
+        QTRY_COMPARE(labelText(page, "CleanupTotalLabel"), texts.at(0));
+        QCOMPARE(labelText(page, "CleanupStatusDetail"), "发现 11 类可清理文件，共 " + texts.at(1));
+        QCOMPARE(labelText(page, "CleanupSummaryLine"), "已选 8 类  ·  预计释放 " + texts.at(2));
     }
 
     void selectAllThenCleanNothing()

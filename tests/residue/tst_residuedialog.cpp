@@ -4,6 +4,7 @@
 
 #include <platform/platform.h>
 #include <support/currentmachine.h>
+#include <support/labeltext.h>
 
 #include <QCheckBox>
 #include <QDir>
@@ -25,12 +26,6 @@ constexpr qint64 GiB = 1024 * MiB;
 void blob(const QString& path, qint64 bytes)
 {
     QVERIFY(testfiles::writeSized(path, bytes, true));
-}
-
-QString text(const QWidget& widget, const char* name)
-{
-    const auto* label = widget.findChild<QLabel*>(QString::fromLatin1(name));
-    return label ? label->text() : QStringLiteral("<missing %1>").arg(QLatin1String(name));
 }
 
 } // namespace
@@ -93,9 +88,9 @@ private slots:
     void emptyResult()
     {
         ResidueDialog dialog(QList<UninstalledApp> {}, nullptr);
-        QCOMPARE(text(dialog, "ResidueStatus"), QString("Initializing..."));
+        QCOMPARE(labelText(dialog, "ResidueStatus"), QString("Initializing..."));
         showAndScan(dialog);
-        QTRY_COMPARE(text(dialog, "ResidueSummary"), QString("No residue files found"));
+        QTRY_COMPARE(labelText(dialog, "ResidueSummary"), QString("No residue files found"));
         QVERIFY(dialog.findChild<QLabel*>("ResidueEmpty")->isVisible());
         QVERIFY(!dialog.findChild<QPushButton*>("ResidueCleanButton")->isEnabled());
     }
@@ -108,10 +103,10 @@ private slots:
         ResidueDialog dialog(QList<InstalledApp> {}, nullptr);
         showAndScan(dialog);
         QTRY_COMPARE(dialog.rows().size(), 2);
-        QCOMPARE(text(dialog, "ResidueSummary"), QString("Found <b>2</b> items  ·  <b>7 MB</b> reclaimable"));
+        QCOMPARE(labelText(dialog, "ResidueSummary"), QString("Found <b>2</b> items  ·  <b>7 MB</b> reclaimable"));
         QVERIFY(dialog.rows().at(0)->isChecked());
         QVERIFY(!dialog.rows().at(1)->isChecked());
-        QCOMPARE(text(*dialog.rows().at(1), "ResidueSafetyBadge"), QString("Safe"));
+        QCOMPARE(labelText(*dialog.rows().at(1), "ResidueSafetyBadge"), QString("Safe"));
 
         auto* clean = dialog.findChild<QPushButton*>("ResidueCleanButton");
         auto* deselect = dialog.findChildren<QPushButton*>("BtnGhost").at(1);
@@ -125,7 +120,7 @@ private slots:
         dialog.rows().at(0)->setChecked(true);
         QTest::mouseClick(clean, Qt::LeftButton);
         QVERIFY(arrived(cleaned, 5000));
-        QTRY_COMPARE(text(dialog, "ResidueStatus"), QString("✅  Cleaned — freed 6 MB"));
+        QTRY_COMPARE(labelText(dialog, "ResidueStatus"), QString("✅  Cleaned — freed 6 MB"));
         QVERIFY(!QFileInfo::exists(roaming() + "/Spotify"));
         QVERIFY(QFileInfo::exists(roaming() + "/Slack/a"));
         QCOMPARE(clean->text(), QString("Done ✓"));
@@ -146,8 +141,8 @@ private slots:
         QTRY_COMPARE(dialog.rows().size(), 1);
         const ResidueRowWidget* row = dialog.rows().at(0);
         QVERIFY(!row->isChecked());
-        QCOMPARE(text(*row, "ResidueSafetyBadge"), QString("Confirm"));
-        QCOMPARE(text(*row, "ResidueCategoryBadge"), QString("Orphaned App Data"));
+        QCOMPARE(labelText(*row, "ResidueSafetyBadge"), QString("Confirm"));
+        QCOMPARE(labelText(*row, "ResidueCategoryBadge"), QString("Orphaned App Data"));
     }
 
     // Closing or destroying the dialog mid-scan stops the worker; nothing reaches the dialog later.
