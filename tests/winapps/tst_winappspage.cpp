@@ -1,6 +1,6 @@
 #include "fakecatalogue.h"
 
-#include "winapps/processrunner.h"
+#include "recordedrunner.h"
 #include "winapps/winapprow.h"
 #include "winapps/winappspage.h"
 
@@ -13,25 +13,17 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <mutex>
-
 namespace {
 
-// Every removal step fails and the package stays registered; counts the runs.
-class FailingRunner final : public ProcessRunner {
-public:
-    ProcessOutcome run(const QString&, const QStringList& arguments, int) override
-    {
-        const std::lock_guard lock(m_mutex);
-        ++runs;
-        const bool verify = arguments.value(3).startsWith(QLatin1String("(Get-AppxPackage"));
-        return verify ? ProcessOutcome { 0, "still.here", {} } : ProcessOutcome { 1, {}, "0x80073CFA <denied>" };
-    }
-    int runs = 0;
-
-private:
-    std::mutex m_mutex;
-};
+// Every removal step fails and the package stays registered.
+std::shared_ptr<RecordedRunner> failingRunner()
+{
+    auto runner = std::make_shared<RecordedRunner>();
+    const ProcessOutcome denied = outcome(1, {}, "0x80073CFA <denied>");
+    runner->outcomes = { { "user", denied }, { "allUsers", denied }, { "provisioned", denied }, { "winget", denied },
+        { "verify", outcome(0, "still.here") } };
+    return runner;
+}
 
 WinApp app(const QString& displayName, const QString& publisher, const QString& name = QString())
 {
@@ -126,7 +118,7 @@ private slots:
     {
         WinAppsPage page;
         show(page);
-        auto runner = std::make_shared<FailingRunner>();
+        auto runner = failingRunner();
         page.setProcessRunner(runner);
         page.onScanDone({ app("Notes", "P"), app("Paint <b>", "P"), app("Zune", "P") });
         const auto list = rows(page);
@@ -156,14 +148,14 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(page.findChild<QWidget*>("WinAppsOverlay")->isHidden(), 10000);
         QTRY_VERIFY(page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
         // Per app: two removals, the provisioned copy and the check; no winget identifier.
-        QCOMPARE(runner->runs, 8);
+        QCOMPARE(int(runner->calls().size()), 8);
     }
 
     void edgeIsNeverRemovedSingly()
     {
         WinAppsPage page;
         show(page);
-        auto runner = std::make_shared<FailingRunner>();
+        auto runner = failingRunner();
         page.setProcessRunner(runner);
         page.onScanDone({ app("Microsoft Edge", "Microsoft", "microsoft.microsoftedge.Stable") });
 
@@ -171,7 +163,7 @@ private slots:
         rows(page).first()->findChild<QPushButton*>("WinAppRowRemove")->click();
         QCOMPARE(boxes.seen, QStringList { QStringLiteral("无法卸载 Microsoft Edge") });
         QTest::qWait(50);
-        QCOMPARE(runner->runs, 0);
+        QCOMPARE(int(runner->calls().size()), 0);
         QVERIFY(page.findChild<QWidget*>("WinAppsOverlay")->isHidden());
     }
 
