@@ -3,7 +3,6 @@
 #include <platform/registry.h>
 
 #include <QDir>
-#include <QFile>
 #include <QThread>
 
 ToolResult RecordedTools::run(const QString& program, const QStringList& arguments, int)
@@ -27,9 +26,13 @@ QList<QStringList> RecordedTools::calls() const
     return m_calls;
 }
 
+// The sandbox reads its process list from its own folder; a machine without one gets a file
+// beside it, so that no case writes into a real system's folders.
 QString SandboxMachine::processList() const
 {
-    return QString::fromStdWString(platform().sandboxRoot()) + QStringLiteral("/processes.txt");
+    const std::wstring root = platform().sandboxRoot();
+    return root.empty() ? outside(QStringLiteral("processes.txt"))
+                        : QString::fromStdWString(root) + QStringLiteral("/processes.txt");
 }
 
 void SandboxMachine::writeFile(const QString& windowsPath, qint64 bytes)
@@ -44,17 +47,12 @@ void SandboxMachine::makeFolder(const QString& windowsPath)
 
 void SandboxMachine::setProcesses(const QStringList& lines)
 {
-    QFile file(processList());
-    if (file.open(QIODevice::WriteOnly))
-        file.write((lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8());
+    testfiles::write(processList(), (lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8());
 }
 
 QStringList SandboxMachine::processes() const
 {
-    QFile file(processList());
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString::fromUtf8(testfiles::read(processList())).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 void SandboxMachine::addService(const QString& name, const QString& binary, const QString& displayName)
