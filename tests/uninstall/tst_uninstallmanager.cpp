@@ -123,7 +123,7 @@ private slots:
         UninstallManager manager;
         QSignalSpy done(&manager, &UninstallManager::refreshFinished);
         manager.refresh();
-        QVERIFY(!done.isEmpty() || done.wait());
+        QVERIFY(arrived(done));
         QTEST(manager.apps().size() == 1, "listed");
     }
 
@@ -348,7 +348,7 @@ private slots:
         UninstallManager manager;
         QSignalSpy refreshed(&manager, &UninstallManager::refreshFinished);
         manager.refresh();
-        QVERIFY(!refreshed.isEmpty() || refreshed.wait());
+        QVERIFY(arrived(refreshed));
         QCOMPARE(manager.apps().size(), 1);
         const InstalledApp app = manager.apps().first();
         QVERIFY(manager.uninstall(app));

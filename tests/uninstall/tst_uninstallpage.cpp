@@ -229,7 +229,7 @@ private slots:
         if (batch) {
             QSignalSpy batchDone(page.manager(), &UninstallManager::batchFinished);
             page.findChild<QPushButton*>("UninstallSelectedButton")->click();
-            QVERIFY(!batchDone.isEmpty() || batchDone.wait(5000));
+            QVERIFY(arrived(batchDone, 5000));
             QTRY_COMPARE(script.seen.size(), 3);
         } else {
             page.onUninstallFinished(name, false);
