@@ -1,51 +1,39 @@
 #pragma once
 
-#include "platform/environment.h"
-#include "platform/filesystem.h"
 #include "platform/forwardingplatform.h"
-#include "platform/platform.h"
 #include "platform/processes.h"
-#include "support/testmachine.h"
+#include "support/currentmachine.h"
+#include "support/forwardingfilesystem.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSet>
-#include <QTemporaryDir>
 
 #include <mutex>
 
 // A sandbox machine, current while it lives, with a process list the test writes and folders it
 // can make undeletable (tests run as root, so permissions cannot do that).
-class ExtMachine final : public platform::ForwardingPlatform, public platform::Processes, public platform::FileSystem {
+class ExtMachine final : public platform::ForwardingPlatform, public platform::Processes, public ForwardingFileSystem {
 public:
-    // `root`: the machine's folder below a temporary one; its spelling reaches every variable.
     explicit ExtMachine(const QString& root = QStringLiteral("machine"))
-        : ForwardingPlatform(m_sandbox)
-        , m_sandbox((m_dir.path() + QLatin1Char('/') + root).toStdWString())
+        : ForwardingPlatform(m_machine.platform())
+        , ForwardingFileSystem(m_machine.platform())
+        , m_machine(root)
     {
         platform::setCurrent(this);
     }
     ~ExtMachine() override { platform::setCurrent(nullptr); }
 
-    QString local(const QString& relative = QString()) const { return env(L"LOCALAPPDATA") + '/' + relative; }
-    QString roaming(const QString& relative = QString()) const { return env(L"APPDATA") + '/' + relative; }
-    QString drive(const QString& windowsPath) const
+    QString local(const QString& relative = QString()) const
     {
-        return QString::fromStdWString(m_sandbox.environment().mapPath(windowsPath.toStdWString()));
+        return m_machine.variable(L"LOCALAPPDATA") + '/' + relative;
     }
+    QString roaming(const QString& relative = QString()) const
+    {
+        return m_machine.variable(L"APPDATA") + '/' + relative;
+    }
+    QString drive(const QString& windowsPath) const { return m_machine.map(windowsPath); }
 
-    static bool write(const QString& path, const QByteArray& bytes)
-    {
-        QFile file(path);
-        return QDir().mkpath(QFileInfo(path).absolutePath()) && file.open(QIODevice::WriteOnly)
-            && file.write(bytes) == bytes.size();
-    }
-    static QByteArray read(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    static bool write(const QString& path, const QByteArray& bytes) { return testfiles::write(path, bytes); }
+    static QByteArray read(const QString& path) { return testfiles::read(path); }
 
     // Processes: image names that are running; a stubborn one survives terminate().
     void setRunning(const QStringList& images, const QStringList& stubborn = {})
@@ -76,40 +64,18 @@ public:
 
     // File system: the sandbox's, except that a removal of a path in `undeletable` fails.
     QSet<QString> undeletable;
-    bool isFolder(const std::wstring& path) override { return m_sandbox.fileSystem().isFolder(path); }
-    std::optional<std::vector<std::wstring>> subFolders(const std::wstring& folder) override
-    {
-        return m_sandbox.fileSystem().subFolders(folder);
-    }
-    std::int64_t folderSize(const std::wstring& folder) override { return m_sandbox.fileSystem().folderSize(folder); }
-    platform::EmptyFolderResult emptyFolder(const std::wstring& folder) override
-    {
-        return m_sandbox.fileSystem().emptyFolder(folder);
-    }
-    platform::FolderMeasure measureFolder(
-        const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop) override
-    {
-        return m_sandbox.fileSystem().measureFolder(folder, maxFiles, stop);
-    }
     platform::EmptyFolderResult removeFolder(const std::wstring& folder) override
     {
         if (undeletable.contains(QString::fromStdWString(folder)))
             return { true, 0, 1, 13 };
-        return m_sandbox.fileSystem().removeFolder(folder);
+        return ForwardingFileSystem::removeFolder(folder);
     }
-    bool removeFile(const std::wstring& path) override { return m_sandbox.fileSystem().removeFile(path); }
 
     platform::FileSystem& fileSystem() override { return *this; }
     platform::Processes& processes() override { return *this; }
 
 private:
-    QString env(const wchar_t* name) const
-    {
-        return QString::fromStdWString(m_sandbox.environment().variable(name).value_or(std::wstring()));
-    }
-
-    QTemporaryDir m_dir;
-    mutable TestMachine m_sandbox;
+    CurrentMachine m_machine;
     mutable std::mutex m_mutex;
     QStringList m_running;
     QStringList m_stubborn;

@@ -2,54 +2,19 @@
 #include "browserext/browserextrow.h"
 #include "browserext/browsergroupwidget.h"
 #include "extmachine.h"
+#include "support/labeltext.h"
+#include "support/modalscript.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
 const QString ChromeUserData = QStringLiteral("Google/Chrome/User Data/Default");
-
-// Answers each message box as it opens, in order, and keeps what it said.
-class BoxAnswers final : public QObject {
-public:
-    explicit BoxAnswers(QStringList answers)
-        : m_answers(std::move(answers))
-    {
-        connect(&m_timer, &QTimer::timeout, this, &BoxAnswers::poll);
-        m_timer.start(10);
-    }
-
-    QStringList titles, texts, informatives;
-
-private:
-    void poll()
-    {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box || box->property("answered").toBool())
-            return;
-        box->setProperty("answered", true);
-        titles << box->windowTitle(), texts << box->text(), informatives << box->informativeText();
-        const QString answer = m_answers.isEmpty() ? QString() : m_answers.takeFirst();
-        for (QAbstractButton* button : box->buttons()) {
-            if (button->text().remove(QLatin1Char('&')) == answer) {
-                button->click();
-                return;
-            }
-        }
-        box->reject(); // an unexpected box must not hang the test
-    }
-
-    QStringList m_answers;
-    QTimer m_timer;
-};
 
 struct Launches {
     QStringList programs;
@@ -84,12 +49,6 @@ BrowserExtRow* rowNamed(const BrowserExtPage& page, const QString& name)
         if (row->extension().name == name)
             return row;
     return nullptr;
-}
-
-QString labelText(const QWidget& page, const char* objectName)
-{
-    const auto* label = page.findChild<QLabel*>(QLatin1String(objectName));
-    return label ? label->text() : QString();
 }
 
 } // namespace
@@ -136,9 +95,9 @@ private slots:
         auto page = makePage(launches);
         QTRY_COMPARE(rowsOf(*page).size(), 1);
 
-        BoxAnswers boxes(answers);
+        ModalScript boxes(ModalScript::pressing(answers));
         rowsOf(*page).constFirst()->findChild<QPushButton*>("BrowserExtRemoveButton")->click();
-        QCOMPARE(boxes.titles, titles);
+        QCOMPARE(boxes.seen, titles);
         // The name is shown as text, never as markup.
         QVERIFY(boxes.texts[0].startsWith("确定要移除 <b>Tab &lt;b&gt;Saver&lt;/b&gt;</b>？"));
         if (titles.size() > 1)
@@ -185,9 +144,9 @@ private slots:
         auto page = makePage(launches);
         QTRY_COMPARE(rowsOf(*page).size(), 1);
 
-        BoxAnswers boxes({ "Yes", "OK" });
+        ModalScript boxes(ModalScript::pressing({ "Yes", "OK" }));
         rowsOf(*page).constFirst()->findChild<QPushButton*>("BrowserExtRemoveButton")->click();
-        QTRY_COMPARE(boxes.titles, (QStringList { "移除扩展", "自动移除失败" }));
+        QTRY_COMPARE(boxes.seen, (QStringList { "移除扩展", "自动移除失败" }));
         QCOMPARE(QApplication::clipboard()->text(), id);
         QCOMPARE(launches.programs,
             program.isEmpty() ? QStringList() : QStringList { program.replace("@", m.drive("C:/")) });
@@ -233,9 +192,9 @@ private slots:
         auto* removeSelected = page->findChild<QPushButton*>("BrowserExtRemoveSelected");
         QCOMPARE(removeSelected->text(), QStringLiteral("🗑  移除所选 (3)"));
 
-        BoxAnswers boxes({ "Yes", "OK" });
+        ModalScript boxes(ModalScript::pressing({ "Yes", "OK" }));
         removeSelected->click();
-        QTRY_COMPARE(boxes.titles, (QStringList { "批量移除", title }));
+        QTRY_COMPARE(boxes.seen, (QStringList { "批量移除", title }));
         QCOMPARE(boxes.texts[0], QStringLiteral("确定要移除选中的 <b>3</b> 个扩展？"));
         QCOMPARE(boxes.texts[1], text);
         // One failed name per line, in the order the scan listed them (the file system's).

@@ -1,9 +1,10 @@
 #include "cleanup/cleanuppage.h"
 #include "cleanup/cleanuprowwidget.h"
 #include "cleanup/cleanupscanner.h"
-#include "platform/environment.h"
 #include "platform/forwardingplatform.h"
-#include "support/testmachine.h"
+#include "support/currentmachine.h"
+#include "support/forwardingfilesystem.h"
+#include "support/labeltext.h"
 
 #include <QDir>
 #include <QLabel>
@@ -11,10 +12,7 @@
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include "platform/filesystem.h"
 
 #include <condition_variable>
 #include <mutex>
@@ -31,71 +29,27 @@ namespace {
 constexpr qint64 MiB = 1024 * 1024;
 constexpr qint64 GiB = 1024 * MiB;
 
-// Workers read the platform on their pool thread, so it must outlive every scan and clean a test starts.
-class CleanupSandbox {
-public:
-    CleanupSandbox()
-        : m_platform(QDir(m_dir.path()).filePath(QStringLiteral("machine")).toStdWString())
-    {
-        platform::setCurrent(&m_platform);
-    }
-    ~CleanupSandbox() { platform::setCurrent(nullptr); }
-
-    platform::Platform& platform() const { return m_platform; }
-
-    // Beside the machine, for what no clean may ever reach.
-    QString outside(const QString& relative) const { return m_dir.filePath(QStringLiteral("outside/") + relative); }
-    // "C:/..." as the sandbox places it; "L:" and "R:" stand for Local and Roaming AppData.
-    QString machine(const QString& path) const
-    {
-        platform::Environment& env = m_platform.environment();
-        if (!path.startsWith(QLatin1String("L:")) && !path.startsWith(QLatin1String("R:")))
-            return QString::fromStdWString(env.mapPath(path.toStdWString()));
-        const auto base = env.variable(path.startsWith(QLatin1Char('L')) ? L"LOCALAPPDATA" : L"APPDATA");
-        return QString::fromStdWString(base.value_or(L"")) + QLatin1Char('/') + path.mid(2);
-    }
-
-    // Sparse: sizes come from metadata only.
-    static bool write(const QString& path, qint64 bytes, bool sparse = false)
-    {
-        QFile file(path);
-        return QDir().mkpath(QFileInfo(path).absolutePath()) && file.open(QIODevice::WriteOnly)
-            && (sparse ? file.resize(bytes) : file.write(QByteArray(bytes, 'j')) == bytes);
-    }
-
-private:
-    QTemporaryDir m_dir;
-    mutable TestMachine m_platform;
-};
+// "C:/..." as the sandbox places it; "L:" and "R:" stand for Local and Roaming AppData.
+QString machine(const CurrentMachine& m, const QString& path)
+{
+    if (path.startsWith(QLatin1String("L:")))
+        return m.variable(L"LOCALAPPDATA") + QLatin1Char('/') + path.mid(2);
+    if (path.startsWith(QLatin1String("R:")))
+        return m.variable(L"APPDATA") + QLatin1Char('/') + path.mid(2);
+    return m.map(path);
+}
 
 // The sandbox's file system with a gate in emptyFolder(): a test holds a clean there for as long
 // as it likes, and every measuring that happens meanwhile (a scan) is counted as an overlap.
-class GatedFileSystem final : public platform::FileSystem {
+class GatedFileSystem final : public ForwardingFileSystem {
 public:
-    explicit GatedFileSystem(platform::FileSystem& inner)
-        : m_inner(inner)
-    {
-    }
+    using ForwardingFileSystem::ForwardingFileSystem;
 
-    bool isFolder(const std::wstring& path) override { return m_inner.isFolder(path); }
-    std::optional<std::vector<std::wstring>> subFolders(const std::wstring& folder) override
-    {
-        return m_inner.subFolders(folder);
-    }
     std::int64_t folderSize(const std::wstring& folder) override
     {
         if (m_emptying > 0)
             ++overlaps;
-        return m_inner.folderSize(folder);
-    }
-    platform::FolderMeasure measureFolder(
-        const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop) override
-    {
-        return m_inner.measureFolder(folder, maxFiles, stop);
-    }
-    platform::EmptyFolderResult removeFolder(const std::wstring& folder) override
-    {
-        return m_inner.removeFolder(folder);
+        return ForwardingFileSystem::folderSize(folder);
     }
     platform::EmptyFolderResult emptyFolder(const std::wstring& folder) override
     {
@@ -105,11 +59,10 @@ public:
             m_held = m_holding;
             m_changed.wait(lock, [this] { return !m_holding; });
         }
-        const platform::EmptyFolderResult result = m_inner.emptyFolder(folder);
+        const platform::EmptyFolderResult result = ForwardingFileSystem::emptyFolder(folder);
         --m_emptying;
         return result;
     }
-    bool removeFile(const std::wstring& path) override { return m_inner.removeFile(path); }
 
     void hold(bool on)
     {
@@ -126,7 +79,6 @@ public:
     std::atomic<int> overlaps { 0 };
 
 private:
-    platform::FileSystem& m_inner;
     std::atomic<int> m_emptying { 0 };
     std::mutex m_mutex;
     std::condition_variable m_changed;
@@ -138,7 +90,7 @@ class GatedPlatform final : public platform::ForwardingPlatform {
 public:
     explicit GatedPlatform(platform::Platform& inner)
         : ForwardingPlatform(inner)
-        , files(inner.fileSystem())
+        , files(inner)
     {
         platform::setCurrent(this);
     }
@@ -185,7 +137,6 @@ bool setUndeletable(const QString& folder, bool on)
 
 class tst_Cleanup : public QObject {
     Q_OBJECT
-    static QString text(QWidget& w, const char* name) { return w.findChild<QLabel*>(QLatin1String(name))->text(); }
     static QPushButton* button(QWidget& w, const char* name) { return w.findChild<QPushButton*>(QLatin1String(name)); }
     static bool progressShown(QWidget& w) { return !w.findChild<QProgressBar*>("CleanupProgress")->isHidden(); }
 private slots:
@@ -194,7 +145,7 @@ private slots:
     void scanMeasuresEveryPlaceOnce()
     {
         NORVALE_SANDBOX_ONLY("puts junk of known sizes in every place the scan measures");
-        CleanupSandbox sandbox;
+        CurrentMachine sandbox;
         const QStringList places = { "C:/Windows/Temp/a", "L:Temp/nested/b",
             "C:/Windows/SoftwareDistribution/Download/c", "L:Google/Chrome/User Data/Default/Cache/d",
             "L:Microsoft/Edge/User Data/Default/Cache/e", "R:Mozilla/Firefox/Profiles/x.default/cache2/f",
@@ -206,9 +157,9 @@ private slots:
         // Real bytes, a few KiB in all: the sums prove which places counted without sparse giants.
         const auto bit = [](int i) { return qint64(1) << i; };
         for (int i = 0; i < places.size(); ++i)
-            QVERIFY(CleanupSandbox::write(sandbox.machine(places.at(i)), bit(i)));
-        QVERIFY(CleanupSandbox::write(sandbox.outside("big.doc"), 1 << 20, true));
-        QVERIFY(QFile::link(sandbox.outside(""), sandbox.machine("C:/Windows/Temp/link-out")));
+            QVERIFY(testfiles::writeSized(machine(sandbox, places.at(i)), bit(i)));
+        QVERIFY(testfiles::writeSized(sandbox.outside("big.doc"), 1 << 20, true));
+        QVERIFY(QFile::link(sandbox.outside(""), machine(sandbox, "C:/Windows/Temp/link-out")));
 
         CleanupScanner scanner;
         QSignalSpy progress(&scanner, &CleanupScanner::scanProgress);
@@ -256,17 +207,17 @@ private slots:
         QFETCH(int, category);
         QFETCH(QStringList, folders);
         QFETCH(QStringList, expected);
-        CleanupSandbox sandbox;
+        CurrentMachine sandbox;
         for (QString folder : folders)
-            QVERIFY(QDir().mkpath(sandbox.machine(folder.replace("{0}", "Default").replace("{1}", "Profile 1"))));
+            QVERIFY(QDir().mkpath(machine(sandbox, folder.replace("{0}", "Default").replace("{1}", "Profile 1"))));
         const QString first = expected.filter("{0}").value(0);
         const QStringList profiles = first.isEmpty()
             ? QStringList()
-            : QDir(sandbox.machine(first.left(first.indexOf("/{0}"))))
+            : QDir(machine(sandbox, first.left(first.indexOf("/{0}"))))
                   .entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
         QStringList wanted;
         for (QString path : expected)
-            wanted << sandbox.machine(
+            wanted << machine(sandbox,
                 profiles.isEmpty() ? path : path.replace("{0}", profiles.at(0)).replace("{1}", profiles.at(1)));
         QCOMPARE(CleanupScanner().categories().at(category).paths, wanted);
     }
@@ -296,14 +247,14 @@ private slots:
         QFETCH(QList<int>, expectedProgress);
         QFETCH(qint64, expectedFreed);
         QFETCH(bool, prefetchEmptied);
-        CleanupSandbox sandbox;
-        const QString prefetch = sandbox.machine("C:/Windows/Prefetch"), dumps = sandbox.machine("L:CrashDumps");
+        CurrentMachine sandbox;
+        const QString prefetch = machine(sandbox, "C:/Windows/Prefetch"), dumps = machine(sandbox, "L:CrashDumps");
         const QString precious = sandbox.outside("precious/deeper/keep.doc");
         const QList<QPair<QString, int>> files = { { prefetch + "/A.pf", 100 }, { prefetch + "/sub/B.pf", 200 },
-            { sandbox.machine("C:/Windows/SoftwareDistribution/Download/kb.cab"), 50 }, { dumps + "/gone.dmp", 1000 },
+            { machine(sandbox, "C:/Windows/SoftwareDistribution/Download/kb.cab"), 50 }, { dumps + "/gone.dmp", 1000 },
             { dumps + "/locked/stays.dmp", 9000 }, { precious, 7000 } };
         for (const auto& [path, bytes] : files)
-            QVERIFY(CleanupSandbox::write(path, bytes));
+            QVERIFY(testfiles::writeSized(path, bytes));
         QVERIFY(QFile::link(sandbox.outside("precious"), prefetch + "/linked-folder"));
         QVERIFY(QFile::link(precious, prefetch + "/sub/linked-file"));
         const bool locked = setUndeletable(dumps + "/locked", true);
@@ -352,17 +303,17 @@ private slots:
         QFETCH(QStringList, atStart);
         QFETCH(QStringList, later);
         QFETCH(qint64, cacheBytes);
-        CleanupSandbox sandbox;
-        const QString profiles = sandbox.machine("R:Mozilla/Firefox/Profiles");
+        CurrentMachine sandbox;
+        const QString profiles = machine(sandbox, "R:Mozilla/Firefox/Profiles");
         const QString outside = sandbox.outside("elsewhere/precious.bin");
-        QVERIFY(CleanupSandbox::write(outside, 16000));
+        QVERIFY(testfiles::writeSized(outside, 16000));
         const auto make = [&](const QStringList& entries) {
             for (const QString& entry : entries) {
                 if (entry.endsWith("->")) {
                     const QString link = profiles + '/' + entry.chopped(2);
                     QVERIFY(QDir().mkpath(QFileInfo(link).path()) && QFile::link(QFileInfo(outside).path(), link));
                 } else {
-                    QVERIFY(CleanupSandbox::write(
+                    QVERIFY(testfiles::writeSized(
                         profiles + '/' + entry.section(':', 0, 0), entry.section(':', 1).toInt()));
                 }
             }
@@ -434,22 +385,22 @@ private slots:
         NORVALE_SANDBOX_ONLY("needs the scan to find exactly the junk it laid out");
         QFETCH(qint64, bytes);
         QFETCH(QStringList, texts);
-        CleanupSandbox sandbox;
-        QVERIFY(CleanupSandbox::write(sandbox.machine("C:/Windows/Prefetch/a.pf"), bytes / 2, true));
-        QVERIFY(CleanupSandbox::write(sandbox.machine("C:/Windows.old/b.bin"), bytes - bytes / 2, true));
+        CurrentMachine sandbox;
+        QVERIFY(testfiles::writeSized(machine(sandbox, "C:/Windows/Prefetch/a.pf"), bytes / 2, true));
+        QVERIFY(testfiles::writeSized(machine(sandbox, "C:/Windows.old/b.bin"), bytes - bytes / 2, true));
         CleanupPage page(nullptr);
         QSignalSpy finished(page.scanner(), &CleanupScanner::scanFinished);
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
-        QTRY_COMPARE(text(page, "CleanupTotalLabel"), texts.at(0));
-        QCOMPARE(text(page, "CleanupStatusDetail"), "发现 11 类可清理文件，共 " + texts.at(1));
-        QCOMPARE(text(page, "CleanupSummaryLine"), "已选 8 类  ·  预计释放 " + texts.at(2));
+        QTRY_COMPARE(labelText(page, "CleanupTotalLabel"), texts.at(0));
+        QCOMPARE(labelText(page, "CleanupStatusDetail"), "发现 11 类可清理文件，共 " + texts.at(1));
+        QCOMPARE(labelText(page, "CleanupSummaryLine"), "已选 8 类  ·  预计释放 " + texts.at(2));
     }
 
     void selectAllThenCleanNothing()
     {
         NORVALE_SANDBOX_ONLY("needs the scan to find exactly the junk it laid out");
-        CleanupSandbox sandbox;
-        QVERIFY(CleanupSandbox::write(sandbox.machine("C:/Windows/Prefetch/a.pf"), 3 * MiB));
+        CurrentMachine sandbox;
+        QVERIFY(testfiles::writeSized(machine(sandbox, "C:/Windows/Prefetch/a.pf"), 3 * MiB));
         CleanupPage page(nullptr);
         QSignalSpy scanned(page.scanner(), &CleanupScanner::scanFinished);
         QSignalSpy cleaned(page.scanner(), &CleanupScanner::cleanFinished);
@@ -477,7 +428,7 @@ private slots:
         QVERIFY(!progressShown(page));
         QCOMPARE(cleaned.count(), 0);
         QVERIFY(clean->isEnabled());
-        QVERIFY(QFileInfo::exists(sandbox.machine("C:/Windows/Prefetch/a.pf")));
+        QVERIFY(QFileInfo::exists(machine(sandbox, "C:/Windows/Prefetch/a.pf")));
     }
 
     // The clean button is back as soon as a clean ends; a clean started before the follow-up scan
@@ -485,10 +436,10 @@ private slots:
     void cleanAgainBeforeTheRescan()
     {
         NORVALE_SANDBOX_ONLY("cleans junk it laid out");
-        CleanupSandbox sandbox;
+        CurrentMachine sandbox;
         GatedPlatform gated(sandbox.platform());
-        const QString prefetch = sandbox.machine("C:/Windows/Prefetch");
-        QVERIFY(CleanupSandbox::write(prefetch + "/a.pf", 3000));
+        const QString prefetch = machine(sandbox, "C:/Windows/Prefetch");
+        QVERIFY(testfiles::writeSized(prefetch + "/a.pf", 3000));
         CleanupPage page(nullptr);
         QSignalSpy scanned(page.scanner(), &CleanupScanner::scanFinished);
         QSignalSpy cleaned(page.scanner(), &CleanupScanner::cleanFinished);
@@ -500,7 +451,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(cleaned.count() == 1 && !progressShown(page), 10000);
         QVERIFY(clean->isEnabled());
 
-        QVERIFY(CleanupSandbox::write(prefetch + "/b.pf", 5000));
+        QVERIFY(testfiles::writeSized(prefetch + "/b.pf", 5000));
         gated.files.hold(true);
         const auto release = qScopeGuard([&] { gated.files.hold(false); });
         QTest::mouseClick(clean, Qt::LeftButton);

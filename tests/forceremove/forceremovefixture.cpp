@@ -1,11 +1,8 @@
 #include "forceremovefixture.h"
 
-#include <platform/environment.h>
 #include <platform/registry.h>
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QThread>
 
 ToolResult RecordedTools::run(const QString& program, const QStringList& arguments, int)
@@ -29,29 +26,18 @@ QList<QStringList> RecordedTools::calls() const
     return m_calls;
 }
 
-SandboxMachine::SandboxMachine()
-    : m_platform(std::make_unique<TestMachine>(m_dir.path().toStdWString()))
+// The sandbox reads its process list from its own folder; a machine without one gets a file
+// beside it, so that no case writes into a real system's folders.
+QString SandboxMachine::processList() const
 {
-    platform::setCurrent(m_platform.get());
-}
-
-SandboxMachine::~SandboxMachine()
-{
-    platform::setCurrent(nullptr);
-}
-
-QString SandboxMachine::local(const QString& windowsPath) const
-{
-    return QString::fromStdWString(m_platform->environment().mapPath(windowsPath.toStdWString()));
+    const std::wstring root = platform().sandboxRoot();
+    return root.empty() ? outside(QStringLiteral("processes.txt"))
+                        : QString::fromStdWString(root) + QStringLiteral("/processes.txt");
 }
 
 void SandboxMachine::writeFile(const QString& windowsPath, qint64 bytes)
 {
-    const QString path = local(windowsPath);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(QByteArray(bytes, 'x'));
+    testfiles::writeSized(local(windowsPath), bytes);
 }
 
 void SandboxMachine::makeFolder(const QString& windowsPath)
@@ -61,17 +47,12 @@ void SandboxMachine::makeFolder(const QString& windowsPath)
 
 void SandboxMachine::setProcesses(const QStringList& lines)
 {
-    QFile file(m_dir.path() + QStringLiteral("/processes.txt"));
-    if (file.open(QIODevice::WriteOnly))
-        file.write((lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8());
+    testfiles::write(processList(), (lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8());
 }
 
 QStringList SandboxMachine::processes() const
 {
-    QFile file(m_dir.path() + QStringLiteral("/processes.txt"));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString::fromUtf8(testfiles::read(processList())).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 void SandboxMachine::addService(const QString& name, const QString& binary, const QString& displayName)

@@ -2,9 +2,9 @@
 
 #include <forceremove/forceremovescanner.h>
 
-#include <platform/filesystem.h>
 #include <platform/forwardingplatform.h>
 #include <platform/registry.h>
+#include <support/forwardingfilesystem.h>
 
 #include <QDebug>
 #include <QDir>
@@ -112,12 +112,12 @@ QStringList describe(const QList<ForceRemoveItem>& items)
 // and values under HKLM cannot be opened for writing, and `lockedFolder` never goes whole.
 class StubbornMachine final : public platform::ForwardingPlatform,
                               public platform::Registry,
-                              public platform::FileSystem {
+                              public ForwardingFileSystem {
 public:
     StubbornMachine(SandboxMachine& inner, QString lockedFolder)
         : ForwardingPlatform(inner.platform())
+        , ForwardingFileSystem(inner.platform())
         , m_reg(inner.registry())
-        , m_fs(inner.platform().fileSystem())
         , m_locked(std::move(lockedFolder))
     {
         platform::setCurrent(this);
@@ -161,29 +161,15 @@ public:
         return hive == Hive::LocalMachine ? platform::Status::AccessDenied : m_reg.deleteValue(hive, path, name);
     }
 
-    bool isFolder(const std::wstring& path) override { return m_fs.isFolder(path); }
-    std::optional<std::vector<std::wstring>> subFolders(const std::wstring& folder) override
-    {
-        return m_fs.subFolders(folder);
-    }
-    std::int64_t folderSize(const std::wstring& folder) override { return m_fs.folderSize(folder); }
-    platform::EmptyFolderResult emptyFolder(const std::wstring& folder) override { return m_fs.emptyFolder(folder); }
-    platform::FolderMeasure measureFolder(
-        const std::wstring& folder, std::uint64_t maxFiles, const std::atomic<bool>* stop) override
-    {
-        return m_fs.measureFolder(folder, maxFiles, stop);
-    }
     platform::EmptyFolderResult removeFolder(const std::wstring& folder) override
     {
         if (QString::fromStdWString(folder) != m_locked)
-            return m_fs.removeFolder(folder);
+            return ForwardingFileSystem::removeFolder(folder);
         return { true, 1, 1, 0 }; // one entry went, one stayed
     }
-    bool removeFile(const std::wstring& path) override { return m_fs.removeFile(path); }
 
 private:
     platform::Registry& m_reg;
-    platform::FileSystem& m_fs;
     const QString m_locked;
 };
 

@@ -3,7 +3,8 @@
 #include <residue/residuescanner.h>
 
 #include <platform/platform.h>
-#include <support/testmachine.h>
+#include <support/currentmachine.h>
+#include <support/labeltext.h>
 
 #include <QCheckBox>
 #include <QDir>
@@ -11,7 +12,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -22,52 +22,36 @@ constexpr qint64 KiB = 1024;
 constexpr qint64 MiB = 1024 * KiB;
 constexpr qint64 GiB = 1024 * MiB;
 
+// Sparse: the scan reads sizes, never contents.
 void blob(const QString& path, qint64 bytes)
 {
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    QVERIFY(f.resize(bytes));
-}
-
-QString text(const QWidget& widget, const char* name)
-{
-    const auto* label = widget.findChild<QLabel*>(QString::fromLatin1(name));
-    return label ? label->text() : QStringLiteral("<missing %1>").arg(QLatin1String(name));
-}
-
-// The worker may have sent the signal before the wait begins.
-bool signalled(QSignalSpy& spy, int timeoutMs)
-{
-    return !spy.isEmpty() || spy.wait(timeoutMs);
+    QVERIFY(testfiles::writeSized(path, bytes, true));
 }
 
 } // namespace
 
 class tst_ResidueDialog : public QObject {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<TestMachine> m_platform;
+    std::unique_ptr<CurrentMachine> m_machine;
 
-    QString roaming() const { return m_dir->path() + "/sandbox/C/Users/User/AppData/Roaming"; }
+    QString drive() const { return QFileInfo(m_machine->map("C:\\Windows")).path(); }
+    QString roaming() const { return drive() + "/Users/User/AppData/Roaming"; }
 
     static void showAndScan(ResidueDialog& dialog)
     {
         QSignalSpy finished(dialog.scanner(), &ResidueScanner::scanFinished);
         dialog.show();
-        QVERIFY(signalled(finished, 5000));
+        QVERIFY(arrived(finished, 5000));
     }
 
 private slots:
     void init()
     {
-        platform::setCurrent(nullptr);
-        m_dir = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir().mkpath(m_dir->path() + "/sandbox/C"));
-        m_platform = std::make_unique<TestMachine>((m_dir->path() + "/sandbox").toStdWString());
-        platform::setCurrent(m_platform.get());
+        m_machine.reset();
+        m_machine = std::make_unique<CurrentMachine>();
+        QVERIFY(QDir().mkpath(drive()));
     }
-    void cleanupTestCase() { platform::setCurrent(nullptr); }
+    void cleanupTestCase() { m_machine.reset(); }
 
     void texts_data()
     {
@@ -104,9 +88,9 @@ private slots:
     void emptyResult()
     {
         ResidueDialog dialog(QList<UninstalledApp> {}, nullptr);
-        QCOMPARE(text(dialog, "ResidueStatus"), QString("Initializing..."));
+        QCOMPARE(labelText(dialog, "ResidueStatus"), QString("Initializing..."));
         showAndScan(dialog);
-        QTRY_COMPARE(text(dialog, "ResidueSummary"), QString("No residue files found"));
+        QTRY_COMPARE(labelText(dialog, "ResidueSummary"), QString("No residue files found"));
         QVERIFY(dialog.findChild<QLabel*>("ResidueEmpty")->isVisible());
         QVERIFY(!dialog.findChild<QPushButton*>("ResidueCleanButton")->isEnabled());
     }
@@ -119,10 +103,10 @@ private slots:
         ResidueDialog dialog(QList<InstalledApp> {}, nullptr);
         showAndScan(dialog);
         QTRY_COMPARE(dialog.rows().size(), 2);
-        QCOMPARE(text(dialog, "ResidueSummary"), QString("Found <b>2</b> items  ·  <b>7 MB</b> reclaimable"));
+        QCOMPARE(labelText(dialog, "ResidueSummary"), QString("Found <b>2</b> items  ·  <b>7 MB</b> reclaimable"));
         QVERIFY(dialog.rows().at(0)->isChecked());
         QVERIFY(!dialog.rows().at(1)->isChecked());
-        QCOMPARE(text(*dialog.rows().at(1), "ResidueSafetyBadge"), QString("Safe"));
+        QCOMPARE(labelText(*dialog.rows().at(1), "ResidueSafetyBadge"), QString("Safe"));
 
         auto* clean = dialog.findChild<QPushButton*>("ResidueCleanButton");
         auto* deselect = dialog.findChildren<QPushButton*>("BtnGhost").at(1);
@@ -135,8 +119,8 @@ private slots:
         QSignalSpy cleaned(dialog.scanner(), &ResidueScanner::cleanFinished);
         dialog.rows().at(0)->setChecked(true);
         QTest::mouseClick(clean, Qt::LeftButton);
-        QVERIFY(signalled(cleaned, 5000));
-        QTRY_COMPARE(text(dialog, "ResidueStatus"), QString("✅  Cleaned — freed 6 MB"));
+        QVERIFY(arrived(cleaned, 5000));
+        QTRY_COMPARE(labelText(dialog, "ResidueStatus"), QString("✅  Cleaned — freed 6 MB"));
         QVERIFY(!QFileInfo::exists(roaming() + "/Spotify"));
         QVERIFY(QFileInfo::exists(roaming() + "/Slack/a"));
         QCOMPARE(clean->text(), QString("Done ✓"));
@@ -148,7 +132,7 @@ private slots:
     void installFolderNeedsConfirmation()
     {
         NORVALE_SANDBOX_ONLY("lays out the only leftover the scan may find");
-        blob(m_dir->path() + "/sandbox/C/Program Files/Paint/a.dll", 2 * MiB);
+        blob(drive() + "/Program Files/Paint/a.dll", 2 * MiB);
         UninstalledApp app;
         app.name = "Paint";
         app.installLocation = "C:\\Program Files\\Paint";
@@ -157,8 +141,8 @@ private slots:
         QTRY_COMPARE(dialog.rows().size(), 1);
         const ResidueRowWidget* row = dialog.rows().at(0);
         QVERIFY(!row->isChecked());
-        QCOMPARE(text(*row, "ResidueSafetyBadge"), QString("Confirm"));
-        QCOMPARE(text(*row, "ResidueCategoryBadge"), QString("Orphaned App Data"));
+        QCOMPARE(labelText(*row, "ResidueSafetyBadge"), QString("Confirm"));
+        QCOMPARE(labelText(*row, "ResidueCategoryBadge"), QString("Orphaned App Data"));
     }
 
     // Closing or destroying the dialog mid-scan stops the worker; nothing reaches the dialog later.
@@ -171,7 +155,7 @@ private slots:
             QSignalSpy progress(dialog->scanner(), &ResidueScanner::scanProgress);
             QSignalSpy finished(dialog->scanner(), &ResidueScanner::scanFinished);
             dialog->show();
-            QVERIFY(signalled(progress, 5000));
+            QVERIFY(arrived(progress, 5000));
             const bool finishedBeforeClose = !finished.isEmpty();
             if (destroy) {
                 delete dialog;

@@ -2,12 +2,11 @@
 
 #include <platform/environment.h>
 #include <platform/platform.h>
-#include <support/testmachine.h>
+#include <support/currentmachine.h>
 
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -22,10 +21,7 @@ constexpr qint64 MiB = 1024 * KiB;
 // Sparse: the scan reads sizes, never contents.
 void blob(const QString& path, qint64 bytes)
 {
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    QVERIFY(f.resize(bytes));
+    QVERIFY(testfiles::writeSized(path, bytes, true));
 }
 
 UninstalledApp uninstalled(const QString& name, const QString& publisher, const QString& location = QString())
@@ -35,20 +31,13 @@ UninstalledApp uninstalled(const QString& name, const QString& publisher, const 
     return app;
 }
 
-// The worker may have sent the signal before the wait begins.
-bool signalled(QSignalSpy& spy, int timeoutMs)
-{
-    return !spy.isEmpty() || spy.wait(timeoutMs);
-}
-
 } // namespace
 
 class tst_ResidueScanner : public QObject {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<TestMachine> m_platform;
+    std::unique_ptr<CurrentMachine> m_machine;
 
-    QString drive() const { return m_dir->path() + QStringLiteral("/sandbox/C"); }
+    QString drive() const { return QFileInfo(m_machine->map("C:\\Windows")).path(); }
     QString roaming() const { return drive() + QStringLiteral("/Users/User/AppData/Roaming"); }
     QString local() const { return drive() + QStringLiteral("/Users/User/AppData/Local"); }
     QString programData() const { return drive() + QStringLiteral("/ProgramData"); }
@@ -57,7 +46,7 @@ class tst_ResidueScanner : public QObject {
     {
         QSignalSpy finished(&scanner, &ResidueScanner::scanFinished);
         start();
-        return signalled(finished, 10000) ? scanner.results() : QList<ResidueItem> {};
+        return arrived(finished, 10000) ? scanner.results() : QList<ResidueItem> {};
     }
 
     static const ResidueItem* find(const QList<ResidueItem>& items, const QString& path)
@@ -75,13 +64,11 @@ private slots:
     }
     void init()
     {
-        platform::setCurrent(nullptr);
-        m_dir = std::make_unique<QTemporaryDir>();
+        m_machine.reset();
+        m_machine = std::make_unique<CurrentMachine>();
         QVERIFY(QDir().mkpath(drive()));
-        m_platform = std::make_unique<TestMachine>((m_dir->path() + "/sandbox").toStdWString());
-        platform::setCurrent(m_platform.get());
     }
-    void cleanupTestCase() { platform::setCurrent(nullptr); }
+    void cleanupTestCase() { m_machine.reset(); }
 
     void knownProgram_data()
     {
@@ -170,7 +157,7 @@ private slots:
         QSignalSpy progress(&scanner, &ResidueScanner::scanProgress);
         QSignalSpy finished(&scanner, &ResidueScanner::scanFinished);
         scanner.scan();
-        QVERIFY(signalled(finished, 10000));
+        QVERIFY(arrived(finished, 10000));
         QCOMPARE(finished.at(0).at(0).toLongLong(), 12 * MiB);
         QList<int> percents;
         for (const auto& args : progress)
@@ -288,8 +275,8 @@ private slots:
         QFETCH(bool, folderStays);
         const QString path = drive() + "/" + folder;
         blob(path + "/data.bin", 2 * MiB);
-        blob(m_dir->path() + "/outside/precious.doc", 7 * MiB);
-        QVERIFY(QFile::link(m_dir->path() + "/outside", path + "/link"));
+        blob(m_machine->outside("precious.doc"), 7 * MiB);
+        QVERIFY(QFile::link(m_machine->outside(), path + "/link"));
         QVERIFY(QFile::link(path, path + "/loop"));
 
         ResidueScanner scanner;
@@ -302,10 +289,10 @@ private slots:
         QSignalSpy progress(&scanner, &ResidueScanner::cleanProgress);
         QSignalSpy cleaned(&scanner, &ResidueScanner::cleanFinished);
         scanner.clean({ int(item - items.constData()), 99 });
-        QVERIFY(signalled(cleaned, 10000));
+        QVERIFY(arrived(cleaned, 10000));
         QCOMPARE(cleaned.at(0).at(0).toLongLong(), 2 * MiB);
         QCOMPARE(progress, QList<QVariantList>({ { 50 }, { 100 } }));
-        QCOMPARE(QFileInfo(m_dir->path() + "/outside/precious.doc").size(), 7 * MiB);
+        QCOMPARE(QFileInfo(m_machine->outside("precious.doc")).size(), 7 * MiB);
         QCOMPARE(QFileInfo::exists(path), folderStays);
         if (folderStays)
             QVERIFY(QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot));
@@ -328,7 +315,7 @@ private slots:
         QCOMPARE(item->size, 5000 * KiB); // the scan's measure stops at its file budget
         QSignalSpy cleaned(&scanner, &ResidueScanner::cleanFinished);
         scanner.clean({ int(item - items.constData()) });
-        QVERIFY(signalled(cleaned, 10000));
+        QVERIFY(arrived(cleaned, 10000));
         QCOMPARE(cleaned.at(0).at(0).toLongLong(), 6000 * KiB);
         QVERIFY(QDir(cache).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot));
     }
@@ -347,7 +334,7 @@ private slots:
         QVERIFY(finished.isEmpty());
         // The next scan starts afresh.
         scanner.scan();
-        QVERIFY(signalled(finished, 10000));
+        QVERIFY(arrived(finished, 10000));
         QCOMPARE(scanner.results().size(), 200);
     }
 };

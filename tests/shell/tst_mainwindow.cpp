@@ -5,21 +5,11 @@
 #include "sysinfo/dashboardpage.h"
 
 #include <QApplication>
-#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
 
-namespace {
-
-void sendMouse(
-    QWidget* target, QEvent::Type type, const QPoint& local, Qt::MouseButton button, Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, QPointF(local), target->mapToGlobal(QPointF(local)), button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(target, &event);
-}
-
-} // namespace
+#include "support/mouse.h"
 
 class tst_MainWindow : public QObject {
     Q_OBJECT

@@ -5,10 +5,11 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
+
+#include "support/mouse.h"
 
 namespace {
 
@@ -34,14 +35,6 @@ QImage paint(QWidget& w)
     image.fill(Qt::white);
     w.render(&image);
     return image;
-}
-
-void sendMouse(
-    QWidget* target, QEvent::Type type, const QPoint& local, Qt::MouseButton button, Qt::MouseButtons buttons)
-{
-    const QPointF global = target->mapToGlobal(QPointF(local));
-    QMouseEvent event(type, QPointF(local), global, button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(target, &event);
 }
 
 TitleBar* barInWindow(QWidget& window, const QPoint& topLeft)

@@ -1,19 +1,16 @@
 #pragma once
 
-#include "platform/environment.h"
 #include "platform/forwardingplatform.h"
 #include "platform/platform.h"
 #include "platform/systemcounters.h"
-#include "support/testmachine.h"
-
-#include <QTemporaryDir>
+#include "support/currentmachine.h"
 
 // A sandbox machine with chosen counters, current while it lives. Tests set the counters before the
 // scanner's worker starts, so they need no lock. Only the system drive has disk space.
 class FakePlatform final : public platform::ForwardingPlatform, public platform::SystemCounters {
 public:
     FakePlatform()
-        : ForwardingPlatform(m_sandbox)
+        : ForwardingPlatform(m_machine.platform())
     {
         platform::setCurrent(this);
     }
@@ -37,7 +34,6 @@ public:
     platform::SystemCounters& counters() override { return *this; }
 
 private:
-    QTemporaryDir m_dir;
-    TestMachine m_sandbox { m_dir.path().toStdWString() };
-    const std::wstring m_systemDrive = m_sandbox.environment().systemDriveRoot();
+    CurrentMachine m_machine;
+    const std::wstring m_systemDrive = m_machine.platform().environment().systemDriveRoot();
 };

@@ -1,13 +1,11 @@
 #include "uninstall/programicon.h"
 
-#include "platform/environment.h"
 #include "platform/forwardingplatform.h"
 #include "platform/iconextractor.h"
-#include "support/testmachine.h"
+#include "support/currentmachine.h"
 
 #include <QDir>
 #include <QImage>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -32,10 +30,9 @@ private:
 
 class IconPlatform final : public platform::ForwardingPlatform {
 public:
-    explicit IconPlatform(const QString& root)
-        : ForwardingPlatform(m_sandbox)
-        , m_sandbox(root.toStdWString())
-        , icons_(m_sandbox.icons())
+    IconPlatform()
+        : ForwardingPlatform(machine.platform())
+        , icons_(machine.platform().icons())
     {
         platform::setCurrent(this);
     }
@@ -43,10 +40,7 @@ public:
 
     platform::IconExtractor& icons() override { return icons_; }
 
-private:
-    TestMachine m_sandbox;
-
-public:
+    CurrentMachine machine;
     RecordingIcons icons_;
 };
 
@@ -103,9 +97,8 @@ private slots:
         QFETCH(QString, field);
         QFETCH(QString, value);
         QFETCH(bool, found);
-        QTemporaryDir dir;
-        IconPlatform machine(dir.path());
-        const QString folder = QString::fromStdWString(machine.environment().mapPath(L"C:/App"));
+        IconPlatform machine;
+        const QString folder = machine.machine.map("C:/App");
         QVERIFY(QDir().mkpath(folder));
         QImage image(8, 8, QImage::Format_ARGB32);
         image.fill(Qt::red);

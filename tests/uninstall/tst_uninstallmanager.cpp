@@ -3,7 +3,7 @@
 #include <platform/forwardingplatform.h>
 #include <platform/launcher.h>
 #include <platform/uninstallentries.h>
-#include <support/testmachine.h>
+#include <support/currentmachine.h>
 
 #include "../platform/win/uninstall_sample.h"
 
@@ -11,7 +11,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -34,10 +33,7 @@ std::vector<std::uint8_t> userAssistData(std::size_t bytes, const QDate& day)
 
 void put(const QString& windowsPath, const QByteArray& content)
 {
-    const QString path = UninstallManager::localPath(windowsPath);
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly) && f.write(content) == content.size());
+    QVERIFY(testfiles::write(UninstallManager::localPath(windowsPath), content));
 }
 
 // The sandbox machine, with every start through the shell written down. Windows Installer is
@@ -74,20 +70,18 @@ private:
 
 class tst_UninstallManager : public QObject {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<TestMachine> m_platform;
+    std::unique_ptr<CurrentMachine> m_machine;
     std::unique_ptr<RecordingPlatform> m_recording;
-    platform::Registry& reg() { return m_platform->registry(); }
+    platform::Registry& reg() { return m_machine->platform().registry(); }
 
 private slots:
     void init()
     {
         platform::setCurrent(nullptr);
         m_recording.reset();
-        m_platform.reset();
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_platform = std::make_unique<TestMachine>(m_dir->path().toStdWString());
-        m_recording = std::make_unique<RecordingPlatform>(*m_platform);
+        m_machine.reset();
+        m_machine = std::make_unique<CurrentMachine>();
+        m_recording = std::make_unique<RecordingPlatform>(m_machine->platform());
         platform::setCurrent(m_recording.get());
         const QString history = UninstallManager::historyFilePath();
         for (const QString& path : { history, history + ".bak" }) {
@@ -129,7 +123,7 @@ private slots:
         UninstallManager manager;
         QSignalSpy done(&manager, &UninstallManager::refreshFinished);
         manager.refresh();
-        QVERIFY(!done.isEmpty() || done.wait());
+        QVERIFY(arrived(done));
         QTEST(manager.apps().size() == 1, "listed");
     }
 
@@ -354,7 +348,7 @@ private slots:
         UninstallManager manager;
         QSignalSpy refreshed(&manager, &UninstallManager::refreshFinished);
         manager.refresh();
-        QVERIFY(!refreshed.isEmpty() || refreshed.wait());
+        QVERIFY(arrived(refreshed));
         QCOMPARE(manager.apps().size(), 1);
         const InstalledApp app = manager.apps().first();
         QVERIFY(manager.uninstall(app));
@@ -377,7 +371,7 @@ private slots:
     {
         NORVALE_SANDBOX_ONLY("reads registry entries and files of its own machine");
         // On this system "//tmp/x" is "/tmp/x", so an old lookup would find the executable.
-        const QString folder = m_dir->filePath("App");
+        const QString folder = m_machine->outside("App");
         QVERIFY(QDir().mkpath(folder));
         QFile exe(folder + "/app.exe");
         QVERIFY(exe.open(QIODevice::WriteOnly) && exe.write("MZ") == 2);

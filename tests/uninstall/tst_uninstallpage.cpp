@@ -4,21 +4,16 @@
 
 #include <platform/platform.h>
 #include <platform/registry.h>
-#include <support/testmachine.h>
+#include <support/currentmachine.h>
+#include <support/modalscript.h>
 
-#include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
-#include <functional>
 #include <memory>
 #include <tuple>
 
@@ -52,50 +47,11 @@ QStringList visibleNames(const UninstallPage& page)
     return list;
 }
 
-// Hands each modal window, as it opens, to the next step and records its title (or object name).
-class ModalScript : public QObject {
-public:
-    using Step = std::function<void(QWidget*)>;
-    explicit ModalScript(QList<Step> steps)
-        : m_steps(std::move(steps))
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this] {
-            QWidget* modal = QApplication::activeModalWidget();
-            if (!modal || modal == m_last || m_steps.isEmpty())
-                return;
-            m_last = modal;
-            seen << (modal->objectName().isEmpty() ? modal->windowTitle() : modal->objectName());
-            m_steps.takeFirst()(modal);
-        });
-        m_timer.start(20);
-    }
-    QStringList seen;
-
-private:
-    QList<Step> m_steps;
-    QTimer m_timer;
-    QPointer<QWidget> m_last;
-};
-
-ModalScript::Step press(const QString& buttonText)
-{
-    return [buttonText](QWidget* modal) {
-        for (QPushButton* b : modal->findChildren<QPushButton*>()) {
-            if (b->text().remove(QLatin1Char('&')) == buttonText) {
-                b->click();
-                return;
-            }
-        }
-        static_cast<QDialog*>(modal)->reject();
-    };
-}
-
 } // namespace
 
 class tst_UninstallPage : public QObject {
     Q_OBJECT
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<TestMachine> m_platform;
+    std::unique_ptr<CurrentMachine> m_machine;
 
     static void showPage(UninstallPage& page, const QList<InstalledApp>& apps)
     {
@@ -112,12 +68,10 @@ class tst_UninstallPage : public QObject {
 private slots:
     void init()
     {
-        platform::setCurrent(nullptr);
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_platform = std::make_unique<TestMachine>(m_dir->path().toStdWString());
-        platform::setCurrent(m_platform.get());
+        m_machine.reset();
+        m_machine = std::make_unique<CurrentMachine>();
     }
-    void cleanupTestCase() { platform::setCurrent(nullptr); }
+    void cleanupTestCase() { m_machine.reset(); }
 
     void rowLooks_data()
     {
@@ -231,8 +185,8 @@ private slots:
         QFETCH(QString, command);
         UninstallPage page;
         showPage(page, { app("Tool", "", 1, "", status, command) });
-        ModalScript script(status == "ok" ? QList<ModalScript::Step> { press("No") }
-                                          : QList<ModalScript::Step> { press("Force Remove…"), press("Cancel") });
+        ModalScript script(
+            ModalScript::pressing(status == "ok" ? QStringList { "No" } : QStringList { "Force Remove…", "Cancel" }));
         UninstallRowWidget* row = page.rows().at(0);
         QTest::mouseClick(row, Qt::LeftButton, {}, row->removeButtonRect().center());
         QVERIFY(!row->isSelected());
@@ -259,23 +213,23 @@ private slots:
         UninstallPage page;
         page.resize(900, 600);
         page.showApps({ app("Steam", "Valve", 1, "") });
-        QList<ModalScript::Step> steps { press("Force Remove…"), press(name == "Ghost" ? "OK" : "Cancel") };
+        QStringList presses { "Force Remove…", name == "Ghost" ? "OK" : "Cancel" };
         if (batch) {
             // The batch's closing refresh may land while the failure is on screen; the program
             // is still installed, so it is still found.
             const std::wstring key = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Steam";
-            m_platform->registry().setString(platform::Hive::LocalMachine, key, L"DisplayName", L"Steam");
-            m_platform->registry().setString(platform::Hive::LocalMachine, key, L"UninstallString", L"u.exe");
-            steps.prepend(press("Yes"));
+            m_machine->platform().registry().setString(platform::Hive::LocalMachine, key, L"DisplayName", L"Steam");
+            m_machine->platform().registry().setString(platform::Hive::LocalMachine, key, L"UninstallString", L"u.exe");
+            presses.prepend("Yes");
             page.show();
             QVERIFY(QTest::qWaitForWindowExposed(&page));
             clickRow(page, 0);
         }
-        ModalScript script(steps);
+        ModalScript script(ModalScript::pressing(presses));
         if (batch) {
             QSignalSpy batchDone(page.manager(), &UninstallManager::batchFinished);
             page.findChild<QPushButton*>("UninstallSelectedButton")->click();
-            QVERIFY(!batchDone.isEmpty() || batchDone.wait(5000));
+            QVERIFY(arrived(batchDone, 5000));
             QTRY_COMPARE(script.seen.size(), 3);
         } else {
             page.onUninstallFinished(name, false);
@@ -288,7 +242,7 @@ private slots:
     void inventoryShowsTheOverlayThenTheCounters()
     {
         const std::wstring key = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
-        auto& reg = m_platform->registry();
+        auto& reg = m_machine->platform().registry();
         reg.setString(platform::Hive::LocalMachine, key + L"A", L"DisplayName", L"Alpha <b>Tool</b>");
         reg.setString(platform::Hive::LocalMachine, key + L"A", L"UninstallString", L"a.exe");
         reg.setString(platform::Hive::LocalMachine, key + L"A", L"InstallDate", L"20100101");

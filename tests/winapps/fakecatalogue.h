@@ -3,9 +3,7 @@
 #include "platform/forwardingplatform.h"
 #include "platform/packagecatalogue.h"
 #include "platform/platform.h"
-#include "support/testmachine.h"
-
-#include <QTemporaryDir>
+#include "support/currentmachine.h"
 
 #include <map>
 #include <vector>
@@ -15,7 +13,7 @@
 class FakeCatalogue final : public platform::ForwardingPlatform, public platform::PackageCatalogue {
 public:
     FakeCatalogue()
-        : ForwardingPlatform(m_sandbox)
+        : ForwardingPlatform(m_machine.platform())
     {
         platform::setCurrent(this);
     }
@@ -46,6 +44,5 @@ public:
     platform::PackageCatalogue& packages() override { return *this; }
 
 private:
-    QTemporaryDir m_dir;
-    TestMachine m_sandbox { m_dir.path().toStdWString() };
+    CurrentMachine m_machine;
 };

@@ -1,54 +1,10 @@
-#include "winapps/processrunner.h"
+#include "recordedrunner.h"
+
 #include "winapps/winappremover.h"
 
 #include <QTest>
 
 namespace {
-
-// Plays back recorded outcomes by step and records every run.
-class RecordedRunner final : public ProcessRunner {
-public:
-    struct Call {
-        QString program;
-        QStringList arguments;
-        int timeoutMs;
-    };
-    QMap<QString, ProcessOutcome> outcomes; // by step; a missing step exits 0 with no output
-    QList<Call> calls;
-
-    static QString stepOf(const QString& program, const QStringList& arguments)
-    {
-        if (program == QLatin1String("winget"))
-            return QStringLiteral("winget");
-        const QString command = arguments.value(3);
-        if (command.startsWith(QLatin1String("Remove-AppxPackage -AllUsers")))
-            return QStringLiteral("allUsers");
-        if (command.startsWith(QLatin1String("Remove-AppxPackage")))
-            return QStringLiteral("user");
-        if (command.startsWith(QLatin1String("Get-AppxProvisionedPackage")))
-            return QStringLiteral("provisioned");
-        return QStringLiteral("verify");
-    }
-
-    ProcessOutcome run(const QString& program, const QStringList& arguments, int timeoutMs) override
-    {
-        calls.append({ program, arguments, timeoutMs });
-        return outcomes.value(stepOf(program, arguments), ProcessOutcome { 0, {}, {} });
-    }
-
-    QString steps() const
-    {
-        QStringList out;
-        for (const Call& c : calls)
-            out << stepOf(c.program, c.arguments);
-        return out.join(' ');
-    }
-};
-
-ProcessOutcome outcome(int code, const QByteArray& out = {}, const QByteArray& err = {})
-{
-    return { code, out, err };
-}
 
 WinApp notes(const QString& wingetId = QStringLiteral("Contoso.Notes_abc"))
 {
@@ -144,7 +100,7 @@ private slots:
         QTest::ignoreMessage(QtDebugMsg, "[WinApps] winget fallback exit: 1 for Contoso.Notes_abc");
         WinAppRemover(runner).remove(notes());
         QStringList seen; // arguments kept apart, so a command that splits into several cannot pass
-        for (const auto& call : runner.calls)
+        for (const auto& call : runner.calls())
             seen << QStringLiteral("%1 %2 %3").arg(call.timeoutMs).arg(call.program, call.arguments.join(" | "));
         const QString ps = QStringLiteral("powershell.exe -NoProfile | -NonInteractive | -Command | ");
         QCOMPARE(seen,
@@ -183,7 +139,8 @@ private slots:
         WinApp app = notes();
         app.fullName = text;
         WinAppRemover(runner).remove(app);
-        QCOMPARE(runner.calls.first().arguments.last(), QStringLiteral("Remove-AppxPackage -Package '%1'").arg(quoted));
+        QCOMPARE(
+            runner.calls().first().arguments.last(), QStringLiteral("Remove-AppxPackage -Package '%1'").arg(quoted));
     }
 
     void progressForEachAppInOrder()

@@ -2,6 +2,8 @@
 
 #include "winapps/winappscanner.h"
 
+#include "support/currentmachine.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
@@ -28,10 +30,7 @@ PackageRecord package(const QString& name, const QString& location = QString())
 
 void writeFile(const QString& path, const QByteArray& bytes)
 {
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
+    QVERIFY(testfiles::write(path, bytes));
 }
 
 QByteArray manifest(const QByteArray& displayName, const QByteArray& publisher = "Contoso",

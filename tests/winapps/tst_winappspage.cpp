@@ -1,38 +1,29 @@
 #include "fakecatalogue.h"
 
-#include "winapps/processrunner.h"
+#include "recordedrunner.h"
 #include "winapps/winapprow.h"
 #include "winapps/winappspage.h"
 
-#include <QApplication>
+#include "support/modalscript.h"
+
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
-
-#include <functional>
-#include <mutex>
 
 namespace {
 
-// Every removal step fails and the package stays registered; counts the runs.
-class FailingRunner final : public ProcessRunner {
-public:
-    ProcessOutcome run(const QString&, const QStringList& arguments, int) override
-    {
-        const std::lock_guard lock(m_mutex);
-        ++runs;
-        const bool verify = arguments.value(3).startsWith(QLatin1String("(Get-AppxPackage"));
-        return verify ? ProcessOutcome { 0, "still.here", {} } : ProcessOutcome { 1, {}, "0x80073CFA <denied>" };
-    }
-    int runs = 0;
-
-private:
-    std::mutex m_mutex;
-};
+// Every removal step fails and the package stays registered.
+std::shared_ptr<RecordedRunner> failingRunner()
+{
+    auto runner = std::make_shared<RecordedRunner>();
+    const ProcessOutcome denied = outcome(1, {}, "0x80073CFA <denied>");
+    runner->outcomes = { { "user", denied }, { "allUsers", denied }, { "provisioned", denied }, { "winget", denied },
+        { "verify", outcome(0, "still.here") } };
+    return runner;
+}
 
 WinApp app(const QString& displayName, const QString& publisher, const QString& name = QString())
 {
@@ -42,21 +33,6 @@ WinApp app(const QString& displayName, const QString& publisher, const QString& 
     a.name = name.isEmpty() ? QStringLiteral("Contoso.") + displayName : name;
     a.fullName = a.name + QStringLiteral("_1.0.0.0_x64__abc");
     return a;
-}
-
-// Handles the next message box the page opens, once it is shown.
-void onNextBox(std::function<void(QMessageBox*)> handle)
-{
-    auto* timer = new QTimer(qApp);
-    timer->setInterval(20);
-    QObject::connect(timer, &QTimer::timeout, [timer, handle] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            timer->deleteLater();
-            timer->stop();
-            handle(box);
-        }
-    });
-    timer->start();
 }
 
 } // namespace
@@ -142,55 +118,52 @@ private slots:
     {
         WinAppsPage page;
         show(page);
-        auto runner = std::make_shared<FailingRunner>();
+        auto runner = failingRunner();
         page.setProcessRunner(runner);
         page.onScanDone({ app("Notes", "P"), app("Paint <b>", "P"), app("Zune", "P") });
         const auto list = rows(page);
         click(list[0]);
         click(list[1]);
 
-        QString question;
-        onNextBox([&](QMessageBox* box) {
-            question = box->text();
-            QCOMPARE(box->defaultButton(), box->button(QMessageBox::No));
-            box->button(QMessageBox::Yes)->click();
-            onNextBox([&](QMessageBox* result) {
-                QCOMPARE(result->icon(), QMessageBox::Critical);
-                QCOMPARE(result->windowTitle(), QStringLiteral("移除失败"));
-                QCOMPARE(result->text(), QStringLiteral("所有应用移除失败。"));
-                // Both apps, in row order, their names and the tool's text escaped for rich text.
-                QVERIFY2(result->informativeText().startsWith(
-                             QStringLiteral("失败详情：<br>• Notes：0x80073CFA &lt;denied&gt;<br>• Paint "
-                                            "&lt;b&gt;：0x80073CFA &lt;denied&gt;<br><br>")),
-                    qPrintable(result->informativeText()));
-                result->accept();
-            });
-        });
+        bool defaultNo = false, critical = false;
+        ModalScript boxes({ [&](QWidget* modal) {
+                               auto* box = static_cast<QMessageBox*>(modal);
+                               defaultNo = box->defaultButton() == box->button(QMessageBox::No);
+                               box->button(QMessageBox::Yes)->click();
+                           },
+            [&](QWidget* modal) {
+                critical = static_cast<QMessageBox*>(modal)->icon() == QMessageBox::Critical;
+                static_cast<QMessageBox*>(modal)->accept();
+            } });
         page.findChild<QPushButton*>("WinAppsRemove")->click();
-        QCOMPARE(question, QStringLiteral("确定移除选中的 2 个应用？\n此操作不可撤销。"));
+        QTRY_COMPARE(boxes.seen.size(), 2);
+        QCOMPARE(boxes.texts, QStringList({ "确定移除选中的 2 个应用？\n此操作不可撤销。", "所有应用移除失败。" }));
+        QVERIFY(defaultNo && critical);
+        QCOMPARE(boxes.seen.at(1), QStringLiteral("移除失败"));
+        // Both apps, in row order, their names and the tool's text escaped for rich text.
+        QVERIFY2(boxes.informatives.at(1).startsWith(
+                     QStringLiteral("失败详情：<br>• Notes：0x80073CFA &lt;denied&gt;"
+                                    "<br>• Paint &lt;b&gt;：0x80073CFA &lt;denied&gt;<br><br>")),
+            qPrintable(boxes.informatives.at(1)));
         QTRY_VERIFY_WITH_TIMEOUT(page.findChild<QWidget*>("WinAppsOverlay")->isHidden(), 10000);
         QTRY_VERIFY(page.findChild<QPushButton*>("WinAppsRefresh")->isEnabled());
         // Per app: two removals, the provisioned copy and the check; no winget identifier.
-        QCOMPARE(runner->runs, 8);
+        QCOMPARE(int(runner->calls().size()), 8);
     }
 
     void edgeIsNeverRemovedSingly()
     {
         WinAppsPage page;
         show(page);
-        auto runner = std::make_shared<FailingRunner>();
+        auto runner = failingRunner();
         page.setProcessRunner(runner);
         page.onScanDone({ app("Microsoft Edge", "Microsoft", "microsoft.microsoftedge.Stable") });
 
-        QString title;
-        onNextBox([&](QMessageBox* box) {
-            title = box->windowTitle();
-            box->accept();
-        });
+        ModalScript boxes(ModalScript::pressing({ "OK" }));
         rows(page).first()->findChild<QPushButton*>("WinAppRowRemove")->click();
-        QCOMPARE(title, QStringLiteral("无法卸载 Microsoft Edge"));
+        QCOMPARE(boxes.seen, QStringList { QStringLiteral("无法卸载 Microsoft Edge") });
         QTest::qWait(50);
-        QCOMPARE(runner->runs, 0);
+        QCOMPARE(int(runner->calls().size()), 0);
         QVERIFY(page.findChild<QWidget*>("WinAppsOverlay")->isHidden());
     }
 
