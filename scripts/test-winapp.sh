@@ -113,7 +113,7 @@ shots="$root/screenshots/windows"
 rm -rf "$shots"
 mkdir -p "$shots"
 shots_status=0
-timeout 300 wine "$build/tools/screenshots/norvale-screenshots.exe" "Z:$shots" >"$build/screenshots.log" 2>&1 ||
+timeout 300 wine "$build/norvale-screenshots.exe" "Z:$shots" >"$build/screenshots.log" 2>&1 ||
     shots_status=$?
 ls "$shots"/*.png 2>/dev/null | sed 's/^/  /' || true
 [ "$shots_status" -eq 0 ] || log "the screenshot tool failed ($shots_status); see $build/screenshots.log"

@@ -17,7 +17,7 @@ trap 'rm -rf "$work"' EXIT
 # passes is the same one the probes read through Wine, so the times are comparable.
 c++ -std=c++17 -O2 -o "$work/runner" "$here/runner.cpp"
 for probe in norvale minimal; do
-    printf '#!/bin/sh\nexec wine "%s"\n' "$build/bench/startup/bench-startup-$probe.exe" >"$work/$probe"
+    printf '#!/bin/sh\nexec wine "%s"\n' "$build/bench-startup-$probe.exe" >"$work/$probe"
     chmod +x "$work/$probe"
 done
 NORVALE_BENCH_WHERE="under Wine, Windows platform plugin" "$work/runner" "$runs" "$work/norvale" "$work/minimal"

@@ -14,7 +14,9 @@ ShellExecuteResult WinLauncher::shellExecuteAndWait(const ShellExecuteRequest& r
     ShellExecuteResult result;
     SHELLEXECUTEINFOW info = {};
     info.cbSize = sizeof(info);
-    info.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_NOASYNC;
+    // No shell error box: a missing uninstaller is reported by the caller's own dialog, and a box
+    // raised here would hold the worker until someone found it behind the window.
+    info.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
     info.hwnd = nullptr;
     info.lpVerb = request.verb.empty() ? nullptr : request.verb.c_str();
     info.lpFile = request.file.c_str();
