@@ -107,6 +107,12 @@ wprofile="$(wine cmd /c echo %USERPROFILE% | tr -d '\r')"
 "$repo/scripts/install-demo-prefix.py" "$demo" "$(winepath -u 'C:\')" "$(winepath -u "$wprofile")" "$wprofile" \
     "$build/demo.reg"
 wine reg import "Z:$build/demo.reg" >/dev/null 2>&1 || { log "reg import failed"; exit 1; }
+# Windows' interface fonts are not Wine's: stand-ins from the build machine with their metrics
+# close enough to judge the layout by.
+for face in "Segoe UI=DejaVu Sans" "Microsoft YaHei UI=Noto Sans CJK SC"; do
+    wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "${face%%=*}" /d "${face#*=}" /f >/dev/null 2>&1 ||
+        { log "font replacement failed"; exit 1; }
+done
 
 log "drawing the screenshots"
 shots="$root/screenshots/windows"

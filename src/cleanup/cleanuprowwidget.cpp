@@ -3,6 +3,7 @@
 #include "widgets/mirror.h"
 #include "widgets/paintedcheckbox.h"
 
+#include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
@@ -70,7 +71,8 @@ CleanupRowWidget::CleanupRowWidget(const JunkCategory& category, QWidget* parent
     auto* name = new QLabel(category.name, this);
     name->setObjectName(QStringLiteral("CleanupRowName"));
     name->setStyleSheet(QStringLiteral("font-size:13px; font-weight:500; color:#0f172a; background:transparent;"));
-    auto* path = new QLabel(category.paths.value(0), this);
+    // The system folders are spelt with forward slashes in the code; Windows shows backslashes.
+    auto* path = new QLabel(QDir::toNativeSeparators(category.paths.value(0)), this);
     path->setObjectName(QStringLiteral("CleanupRowPath"));
     path->setStyleSheet(QStringLiteral("font-size:11px; color:#94a3b8; background:transparent;"));
     // Long paths must not widen the row.
